@@ -1,0 +1,128 @@
+#include "common/decimal_digits.h"
+
+#include <algorithm>
+#include <charconv>
+#include <iterator>
+#include <system_error>
+
+namespace eterlab {
+
+namespace {
+
+constexpr int single_precision_digits = 7;
+/// Sign, digits, point, exponent: "-1.23456789012345e-308".
+constexpr std::size_t scientific_size = 32;
+
+}  // namespace
+
+DecimalDigits::DecimalDigits(Real x) {
+  char text[scientific_size];
+  const auto end = std::to_chars(std::begin(text), std::end(text), x.value(),
+                                 std::chars_format::scientific, precision_ - 1);
+  read({text, static_cast<std::size_t>(end.ptr - text)});
+}
+
+DecimalDigits::DecimalDigits(Single x) : precision_{single_precision_digits} {
+  char text[scientific_size];
+  const auto end = std::to_chars(std::begin(text), std::end(text), x.value(),
+                                 std::chars_format::scientific, precision_ - 1);
+  read({text, static_cast<std::size_t>(end.ptr - text)});
+}
+
+void DecimalDigits::read(std::string_view scientific) {
+  negative_ = scientific.front() == '-';
+  const std::size_t letter = scientific.find('e');
+  for (const char c : scientific.substr(0, letter)) {
+    if (c >= '0' && c <= '9') {
+      digits_[count_++] = c;
+    }
+  }
+  std::string_view exponent = scientific.substr(letter + 1);
+  if (exponent.front() == '+') {
+    exponent.remove_prefix(1);  // from_chars takes no plus sign
+  }
+  std::from_chars(exponent.data(), exponent.data() + exponent.size(), exponent_);
+  if (digits_[0] == '0') {
+    clear();
+  }
+}
+
+void DecimalDigits::clear() {
+  count_ = 0;
+  exponent_ = 0;
+}
+
+void DecimalDigits::round_to(int decimals) {
+  const int kept = exponent_ + 1 + decimals;
+  if (is_zero() || kept >= count_) {
+    return;
+  }
+  const bool up = kept >= 0 && digits_[kept] >= '5';
+  count_ = std::max(kept, 0);
+  if (!up) {
+    if (count_ == 0) {
+      clear();
+    }
+    return;
+  }
+  while (count_ > 0 && digits_[count_ - 1] == '9') {
+    --count_;
+  }
+  if (count_ > 0) {
+    ++digits_[count_ - 1];
+    return;
+  }
+  digits_[count_++] = '1';  // 9.99 becomes 10, 0.5 becomes 1
+  ++exponent_;
+}
+
+void DecimalDigits::drop_trailing_zeros() {
+  while (count_ > 0 && digits_[count_ - 1] == '0') {
+    --count_;
+  }
+}
+
+char DecimalDigits::digit(int weight) const {
+  const int place = exponent_ - weight;
+  return place >= 0 && place < count_ ? digits_[place] : '0';
+}
+
+std::string DecimalDigits::integer_part() const {
+  std::string text;
+  for (int weight = std::max(exponent_, 0); weight >= 0; --weight) {
+    text += digit(weight);
+  }
+  return text;
+}
+
+std::string DecimalDigits::fraction(int decimals) const {
+  std::string text;
+  for (int weight = -1; weight >= -decimals; --weight) {
+    text += digit(weight);
+  }
+  return text;
+}
+
+int DecimalDigits::decimals() const { return std::max(count_ - 1 - exponent_, 0); }
+
+Real DecimalDigits::value() const {
+  if (is_zero()) {
+    return 0;
+  }
+  char text[scientific_size];
+  char* at = text;
+  if (negative_) {
+    *at++ = '-';
+  }
+  at = std::copy_n(digits_, count_, at);
+  *at++ = 'e';
+  at = std::to_chars(at, std::end(text), exponent_ - count_ + 1).ptr;
+  double value = 0;
+  // Only upwards can the range be left: rounding up digits that are already a double's.
+  if (std::from_chars(text, at, value).ec == std::errc::result_out_of_range) {
+    throw ArithmeticFault{ArithmeticFault::Kind::overflow};
+  }
+  return Real{value};
+}
+
+}  // namespace eterlab

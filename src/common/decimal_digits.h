@@ -1,0 +1,52 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "common/arithmetic.h"
+
+namespace eterlab {
+
+/// The decimal digits of a value: d1.d2d3... x 10^exponent, d1 not 0 unless the value is zero.
+class DecimalDigits {
+ public:
+  explicit DecimalDigits(Real x);
+  explicit DecimalDigits(Single x);
+
+  /// Rounds half away from zero on the digits held.
+  void round_to(int decimals);
+  void drop_trailing_zeros();
+
+  [[nodiscard]] bool is_zero() const { return count_ == 0; }
+  [[nodiscard]] bool is_negative() const { return negative_ && !is_zero(); }
+  [[nodiscard]] int exponent() const { return exponent_; }
+  /// How many digits the type of the value carries: 15 or 7.
+  [[nodiscard]] int precision() const { return precision_; }
+  /// Digits held, without the zeros that rounding or dropping took away.
+  [[nodiscard]] std::string_view digits() const {
+    return {digits_, static_cast<std::size_t>(count_)};
+  }
+  /// The digits before the decimal point, "0" if there are none.
+  [[nodiscard]] std::string integer_part() const;
+  /// The first `decimals` digits after the decimal point.
+  [[nodiscard]] std::string fraction(int decimals) const;
+  /// The number of digits after the decimal point, the last of them not 0 after dropping zeros.
+  [[nodiscard]] int decimals() const;
+  [[nodiscard]] Real value() const;
+
+ private:
+  static constexpr int max_precision = 15;
+
+  void read(std::string_view scientific);
+  void clear();
+  /// The digit of weight 10^weight.
+  [[nodiscard]] char digit(int weight) const;
+
+  char digits_[max_precision] = {};
+  int count_ = 0;
+  int exponent_ = 0;
+  int precision_ = max_precision;
+  bool negative_ = false;
+};
+
+}  // namespace eterlab

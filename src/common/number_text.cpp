@@ -1,0 +1,117 @@
+#include "common/number_text.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "common/decimal_digits.h"
+#include "common/regional_settings.h"
+
+namespace eterlab {
+
+namespace {
+
+std::string grouped(const std::string& digits) {
+  const RegionalSettings& region = regional_settings();
+  const auto total = static_cast<int>(digits.size());
+  if (region.group_separator.empty() || region.first_group <= 0 || total <= region.first_group) {
+    return digits;
+  }
+  std::string text;
+  for (int i = 0; i < total; ++i) {
+    // Counted from the decimal separator: a group begins here when the digits left fill whole ones.
+    const int beyond_first = total - i - region.first_group;
+    const bool group_begins = beyond_first == 0 || (beyond_first > 0 && region.other_groups > 0 &&
+                                                    beyond_first % region.other_groups == 0);
+    if (i > 0 && group_begins) {
+      text += region.group_separator;
+    }
+    text += digits[static_cast<std::size_t>(i)];
+  }
+  return text;
+}
+
+std::string sign(const DecimalDigits& number) { return number.is_negative() ? "-" : ""; }
+
+std::string fixed_text(DecimalDigits number, int decimals) {
+  number.round_to(decimals);
+  std::string text = sign(number) + grouped(number.integer_part());
+  if (decimals > 0) {
+    text += regional_settings().decimal_separator + number.fraction(decimals);
+  }
+  return text;
+}
+
+std::string pattern_text(DecimalDigits number, std::string_view mask) {
+  const std::size_t point = mask.find('.');
+  const std::string_view before = mask.substr(0, point);
+  const std::string_view after =
+      point == std::string_view::npos ? std::string_view{} : mask.substr(point + 1);
+  const auto always_before = std::count(before.begin(), before.end(), '0');
+  const auto always_after = static_cast<int>(std::count(after.begin(), after.end(), '0'));
+
+  number.round_to(static_cast<int>(after.size()));
+  number.drop_trailing_zeros();
+  std::string integer = number.integer_part();
+  if (always_before == 0 && integer == "0") {
+    integer.clear();
+  }
+  const auto padding =
+      std::max<std::ptrdiff_t>(always_before - static_cast<std::ptrdiff_t>(integer.size()), 0);
+  integer.insert(0, static_cast<std::size_t>(padding), '0');
+  const bool grouping = before.find(',') != std::string_view::npos;
+
+  std::string text = sign(number) + (grouping ? grouped(integer) : integer);
+  if (point != std::string_view::npos) {
+    text += regional_settings().decimal_separator +
+            number.fraction(std::max(always_after, number.decimals()));
+  }
+  return text;
+}
+
+std::string plain_text(DecimalDigits number) {
+  constexpr int smallest_exponent = -4;
+  number.drop_trailing_zeros();
+  if (number.exponent() >= smallest_exponent && number.exponent() < number.precision()) {
+    std::string text = sign(number) + number.integer_part();
+    if (number.decimals() > 0) {
+      text += regional_settings().decimal_separator + number.fraction(number.decimals());
+    }
+    return text;
+  }
+  const std::string_view digits = number.digits();
+  std::string text = sign(number) + digits.front();
+  if (digits.size() > 1) {
+    text += regional_settings().decimal_separator;
+    text += digits.substr(1);
+  }
+  const std::string exponent = std::to_string(std::abs(number.exponent()));
+  text += number.exponent() < 0 ? "E-" : "E+";
+  text += exponent.size() < 2 ? "0" + exponent : exponent;
+  return text;
+}
+
+Real rounded_value(DecimalDigits number, int decimals) {
+  number.round_to(decimals);
+  return number.value();
+}
+
+}  // namespace
+
+std::string fixed(Real x, int decimals) { return fixed_text(DecimalDigits{x}, decimals); }
+std::string fixed(Single x, int decimals) { return fixed_text(DecimalDigits{x}, decimals); }
+std::string fixed(Real x) { return fixed(x, regional_settings().default_decimals); }
+std::string fixed(Single x) { return fixed(x, regional_settings().default_decimals); }
+
+std::string pattern(Real x, std::string_view mask) { return pattern_text(DecimalDigits{x}, mask); }
+std::string pattern(Single x, std::string_view mask) {
+  return pattern_text(DecimalDigits{x}, mask);
+}
+
+std::string plain(Real x) { return plain_text(DecimalDigits{x}); }
+std::string plain(Single x) { return plain_text(DecimalDigits{x}); }
+
+Real rounded(Real x, int decimals) { return rounded_value(DecimalDigits{x}, decimals); }
+Real rounded(Single x, int decimals) { return rounded_value(DecimalDigits{x}, decimals); }
+Real rounded(Real x) { return rounded(x, regional_settings().default_decimals); }
+
+}  // namespace eterlab

@@ -1,0 +1,18 @@
+#include <QApplication>
+
+#include "common/regional_settings.h"
+#include "ui/desktop.h"
+#include "ui/system_region.h"
+#include "ui/theme.h"
+
+int main(int argc, char* argv[]) {
+  using namespace eterlab;
+
+  QApplication application{argc, argv};
+  ui::theme::apply(application);
+  set_regional_settings(ui::regional_settings_of(QLocale::system()));
+
+  ui::Desktop desktop;
+  desktop.show("FRMETERLAB");
+  return QApplication::exec();
+}

@@ -1,0 +1,43 @@
+#include "ui/control.h"
+
+#include <QApplication>
+#include <QColor>
+#include <QPalette>
+#include <QSizePolicy>
+
+#include "ui/text.h"
+
+namespace eterlab::ui {
+
+void set_up(QWidget& control, std::string_view name, Tooltip tip) {
+  control.setObjectName(to_qt(name));
+  control.setToolTip(to_qt(tip.text));
+  QSizePolicy policy = control.sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  control.setSizePolicy(policy);
+}
+
+namespace {
+
+void set_foreground(QWidget& control, const QColor& colour) {
+  QPalette palette = control.palette();
+  palette.setColor(control.foregroundRole(), colour);
+  control.setPalette(palette);
+}
+
+}  // namespace
+
+void set_text_colour(QWidget& control, Colour colour) {
+  set_foreground(control, {colour.red, colour.green, colour.blue});
+}
+
+void reset_text_colour(QWidget& control) {
+  set_foreground(control, QApplication::palette().color(QPalette::ButtonText));
+}
+
+Colour text_colour(const QWidget& control) {
+  const QColor colour = control.palette().color(control.foregroundRole());
+  return {colour.red(), colour.green(), colour.blue()};
+}
+
+}  // namespace eterlab::ui

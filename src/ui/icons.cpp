@@ -1,0 +1,59 @@
+#include "ui/icons.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QPixmap>
+
+namespace eterlab::ui {
+
+namespace {
+
+void draw_open_door(QPainter& painter) {
+  const QColor wood{0x9c, 0x5f, 0x2e};
+  const QColor dark_wood{0x5d, 0x36, 0x18};
+  const QColor daylight{0xff, 0xf3, 0xc4};
+  const QColor arrow{0x1f, 0x7a, 0x3d};
+
+  painter.setPen(QPen{dark_wood, 2});
+  painter.setBrush(daylight);
+  painter.drawRect(QRectF{5, 3, 16, 26});
+
+  painter.setPen(QPen{dark_wood, 1.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin});
+  painter.setBrush(wood);
+  painter.drawPolygon(QPolygonF{{{5, 3}, {13, 6.5}, {13, 31}, {5, 29}}});
+  painter.setBrush(daylight);
+  painter.drawEllipse(QPointF{11, 18.5}, 1, 1.2);
+
+  QPainterPath path;
+  path.moveTo(15.5, 13.5);
+  path.lineTo(22, 13.5);
+  path.lineTo(22, 9);
+  path.lineTo(31, 16);
+  path.lineTo(22, 23);
+  path.lineTo(22, 18.5);
+  path.lineTo(15.5, 18.5);
+  path.closeSubpath();
+  painter.setPen(QPen{arrow.darker(150), 1});
+  painter.setBrush(arrow);
+  painter.drawPath(path);
+}
+
+}  // namespace
+
+QIcon open_door_icon() {
+  QIcon icon;
+  for (const int scale : {1, 2, 3}) {
+    QPixmap picture{icon_size * scale, icon_size * scale};
+    picture.fill(Qt::transparent);
+    QPainter painter{&picture};
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(scale, scale);
+    draw_open_door(painter);
+    painter.end();
+    picture.setDevicePixelRatio(scale);
+    icon.addPixmap(picture);
+  }
+  return icon;
+}
+
+}  // namespace eterlab::ui

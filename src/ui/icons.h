@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QIcon>
+
+namespace eterlab::ui {
+
+/// Logical pixels along each side of a button's picture.
+constexpr int icon_size = 32;
+
+/// A door standing open and an arrow leaving through it.
+QIcon open_door_icon();
+
+}  // namespace eterlab::ui

@@ -1,0 +1,89 @@
+#include "ui/label.h"
+
+#include <QMouseEvent>
+#include <algorithm>
+#include <utility>
+
+#include "ui/desktop.h"
+#include "ui/text.h"
+#include "ui/theme.h"
+
+namespace eterlab::ui {
+
+Label::Label(Parent parent, std::string_view name, std::string_view text, Tooltip tip)
+    : QLabel{parent.widget()} {
+  set_up(*this, name, tip);
+  setTextFormat(Qt::PlainText);
+  setText(to_qt(text));
+}
+
+Label& Label::operator=(std::string_view text) {
+  setText(to_qt(text));
+  name_prompted_box();
+  return *this;
+}
+
+std::string Label::content() const { return from_qt(text()); }
+
+void Label::reserve(std::string_view longest_text) {
+  const QString shown = text();
+  setText(to_qt(longest_text));
+  setMinimumWidth(sizeHint().width());
+  setText(shown);
+}
+
+void Label::set_prompt_of(QWidget& box) {
+  setBuddy(&box);
+  prompted_box_ = &box;
+  unprompted_name_ = box.accessibleName();
+  name_prompted_box();
+}
+
+void Label::name_prompted_box() {
+  if (prompted_box_ != nullptr) {
+    // A prompt that a mode has yet to write leaves the box the name it was made with.
+    const QString prompt = text().trimmed();
+    prompted_box_->setAccessibleName(prompt.isEmpty() ? unprompted_name_ : prompt);
+  }
+}
+
+void Label::on_click(Handler handler) {
+  click_handler_ = std::move(handler);
+  setCursor(Qt::PointingHandCursor);
+}
+
+void Label::set_font(std::string_view family, double points, QFont::Weight weight) {
+  QFont font{to_qt(family)};
+  font.setPointSizeF(points);
+  font.setWeight(weight);
+  setFont(font);
+}
+
+void Label::set_role(Role role) {
+  role_ = role;
+  const bool copyable = role == Role::result || role == Role::drawing;
+  setWordWrap(role == Role::note || role == Role::result);
+  setFont(theme::font_of(role));
+  setForegroundRole(role == Role::note ? QPalette::PlaceholderText : QPalette::WindowText);
+  setAlignment(role == Role::drawing ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
+  setTextInteractionFlags(copyable ? Qt::TextSelectableByMouse : Qt::NoTextInteraction);
+}
+
+QSize Label::minimumSizeHint() const {
+  constexpr int characters_of_a_word = 12;
+  QSize size = QLabel::minimumSizeHint();
+  if (wordWrap()) {
+    // A number of three hundred digits is no reason for a window as wide as the screen.
+    size.setWidth(std::min(size.width(), theme::characters(characters_of_a_word)));
+  }
+  return size;
+}
+
+void Label::mouseReleaseEvent(QMouseEvent* event) {
+  QLabel::mouseReleaseEvent(event);
+  if (click_handler_ && event->button() == Qt::LeftButton && rect().contains(event->pos())) {
+    Desktop::instance().run(click_handler_);
+  }
+}
+
+}  // namespace eterlab::ui

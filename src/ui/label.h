@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QLabel>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "ui/control.h"
+
+namespace eterlab::ui {
+
+/// Text on a window, shown exactly as stored. Its role decides how it looks.
+class Label : public QLabel {
+ public:
+  enum class Role : std::uint8_t {
+    text,     ///< as the user's font writes it, on one line
+    note,     ///< explanation: quieter, wrapped
+    result,   ///< what the window is for: stronger, wrapped, to be selected and copied
+    drawing,  ///< on a drawing, centred, to be selected and copied
+  };
+
+  Label(Parent parent, std::string_view name, std::string_view text = {}, Tooltip tip = {});
+
+  Label& operator=(std::string_view text);
+  [[nodiscard]] std::string content() const;
+
+  /// Keeps the room that this text would take, for a label that is empty or shorter at first.
+  void reserve(std::string_view longest_text);
+  /// Names a box for screen readers by this label, whatever the label will say.
+  void set_prompt_of(QWidget& box);
+  void on_click(Handler handler);
+
+  /// For a text whose font the design gives.
+  void set_font(std::string_view family, double points, QFont::Weight weight = QFont::Normal);
+  /// For a label of an array; the others say their role by their type.
+  void set_role(Role role);
+  [[nodiscard]] Role role() const { return role_; }
+
+  [[nodiscard]] QSize minimumSizeHint() const override;
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  void name_prompted_box();
+
+  Role role_ = Role::text;
+  QWidget* prompted_box_ = nullptr;
+  QString unprompted_name_;
+  Handler click_handler_;
+};
+
+class Note final : public Label {
+ public:
+  Note(Parent parent, std::string_view name, std::string_view text = {}, Tooltip tip = {})
+      : Label{parent, name, text, tip} {
+    set_role(Role::note);
+  }
+  using Label::operator=;
+};
+
+class Result final : public Label {
+ public:
+  Result(Parent parent, std::string_view name, std::string_view text = {}, Tooltip tip = {})
+      : Label{parent, name, text, tip} {
+    set_role(Role::result);
+  }
+  using Label::operator=;
+};
+
+}  // namespace eterlab::ui

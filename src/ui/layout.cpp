@@ -1,0 +1,136 @@
+#include "ui/layout.h"
+
+#include <QBoxLayout>
+#include <QGridLayout>
+
+#include "ui/label.h"
+#include "ui/option_array.h"
+#include "ui/text_box.h"
+#include "ui/theme.h"
+
+namespace eterlab::ui {
+
+namespace {
+
+QVBoxLayout* new_column(std::initializer_list<Item> items) {
+  auto* column = new QVBoxLayout;
+  column->setSpacing(theme::spacing() * 2 / 3);
+  for (const Item& item : items) {
+    item.add_to(*column);
+  }
+  return column;
+}
+
+/// The focusable controls of a layout, in reading order.
+void collect(const QLayout& layout, QWidgetList& controls) {
+  for (int i = 0; i < layout.count(); ++i) {
+    QLayoutItem& item = *layout.itemAt(i);
+    if (QLayout* inner = item.layout(); inner != nullptr) {
+      collect(*inner, controls);
+    } else if (QWidget* widget = item.widget(); widget != nullptr) {
+      if (widget->focusPolicy() != Qt::NoFocus) {
+        controls.append(widget);
+      }
+      if (widget->layout() != nullptr) {
+        collect(*widget->layout(), controls);
+      }
+    }
+  }
+}
+
+}  // namespace
+
+Item::Item(const OptionArray& options) {
+  auto* column = new QVBoxLayout;
+  column->setSpacing(theme::spacing() / 3);
+  for (Option* button : options.buttons()) {
+    // No wider than its text: a click beside it is not meant for it.
+    column->addWidget(button, 0, Qt::AlignLeft);
+  }
+  layout_ = column;
+}
+
+void Item::add_to(QBoxLayout& box) const {
+  if (place_ == Place::bottom) {
+    box.addStretch(1);
+  }
+  if (widget_ != nullptr) {
+    box.addWidget(widget_);
+  } else if (layout_ != nullptr) {
+    box.addLayout(layout_);
+  } else {
+    box.addStretch(1);
+  }
+}
+
+void Item::fill(QWidget& container, int margin) const {
+  auto* outer = new QVBoxLayout{&container};
+  outer->setContentsMargins(margin, margin, margin, margin);
+  add_to(*outer);
+}
+
+Item column(std::initializer_list<Item> items) { return Item{new_column(items)}; }
+
+Item row(std::initializer_list<Item> items) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(theme::spacing());
+  for (const Item& item : items) {
+    item.add_to(*row);
+  }
+  return Item{row};
+}
+
+Item buttons(std::initializer_list<Item> items) {
+  auto* row = new QHBoxLayout;
+  row->addStretch(1);
+  for (const Item& item : items) {
+    item.add_to(*row);
+  }
+  return Item{row, Item::Place::bottom};
+}
+
+Item stretch() { return Item{static_cast<QLayout*>(nullptr)}; }
+
+Field field(Label& prompt, TextBox& box) {
+  prompt.set_prompt_of(box);
+  return {&prompt, &box, nullptr};
+}
+
+Field field(Label& prompt, TextBox& box, Label& unit) {
+  prompt.set_prompt_of(box);
+  return {&prompt, &box, &unit};
+}
+
+Field field(Label& name, Label& value) { return {&name, &value, nullptr}; }
+
+Field field(Label& name, Label& value, Label& unit) { return {&name, &value, &unit}; }
+
+Item form(std::initializer_list<Field> fields) {
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(theme::spacing() / 2);
+  grid->setVerticalSpacing(theme::spacing() / 2);
+  int line = 0;
+  for (const Field& field : fields) {
+    field.prompt->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(field.prompt, line, 0);
+    if (field.unit != nullptr) {
+      grid->addWidget(field.value, line, 1);
+      grid->addWidget(field.unit, line, 2);
+    } else {
+      grid->addWidget(field.value, line, 1, 1, 2);
+    }
+    ++line;
+  }
+  grid->setColumnStretch(2, 1);
+  return Item{grid};
+}
+
+void set_tab_order(const QWidget& window) {
+  QWidgetList controls;
+  collect(*window.layout(), controls);
+  for (qsizetype i = 1; i < controls.size(); ++i) {
+    QWidget::setTabOrder(controls[i - 1], controls[i]);
+  }
+}
+
+}  // namespace eterlab::ui

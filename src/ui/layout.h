@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QWidget>
+#include <initializer_list>
+
+class QBoxLayout;
+class QLayout;
+
+// How a window says what stands where: rows and columns of controls, forms of prompts and boxes,
+// the buttons. Sizes follow the user's font. Reading order is tab order.
+
+namespace eterlab::ui {
+
+class ComboBox;
+class Label;
+class OptionArray;
+class TextBox;
+
+/// A control, or controls already laid out. Each is put into exactly one place.
+class Item {
+ public:
+  enum class Place : unsigned char { normal, bottom };
+
+  Item(QWidget& widget) : widget_{&widget} {}
+  /// The buttons one under the other.
+  Item(const OptionArray& options);
+  explicit Item(QLayout* layout, Place place = Place::normal) : layout_{layout}, place_{place} {}
+
+  void add_to(QBoxLayout& box) const;
+  /// Makes this the whole contents of a window or frame, with a margin of so many pixels around it.
+  void fill(QWidget& container, int margin) const;
+
+ private:
+  QWidget* widget_ = nullptr;
+  QLayout* layout_ = nullptr;
+  Place place_ = Place::normal;
+};
+
+Item column(std::initializer_list<Item> items);
+Item row(std::initializer_list<Item> items);
+/// The buttons of a window: at its bottom, to the right.
+Item buttons(std::initializer_list<Item> items);
+
+template <class... Items>
+Item column(Items&&... items) {
+  return column({Item{items}...});
+}
+template <class... Items>
+Item row(Items&&... items) {
+  return row({Item{items}...});
+}
+template <class... Items>
+Item buttons(Items&&... items) {
+  return buttons({Item{items}...});
+}
+
+/// Room that grows, to keep neighbours together or apart.
+Item stretch();
+
+/// One line of a form.
+struct Field {
+  Label* prompt;
+  QWidget* value;
+  Label* unit;
+};
+/// A box with its prompt, which also names it for screen readers, and perhaps its unit.
+Field field(Label& prompt, TextBox& box);
+Field field(Label& prompt, TextBox& box, Label& unit);
+Field field(Label& prompt, ComboBox& box);
+/// A value with its name, and perhaps its unit.
+Field field(Label& name, Label& value);
+Field field(Label& name, Label& value, Label& unit);
+
+/// Lines of prompts and boxes, aligned.
+Item form(std::initializer_list<Field> fields);
+template <class... Fields>
+Item form(Fields... fields) {
+  return form({fields...});
+}
+
+/// Makes the reading order of a laid-out window its tab order.
+void set_tab_order(const QWidget& window);
+
+}  // namespace eterlab::ui

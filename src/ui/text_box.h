@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QLineEdit>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "common/arithmetic.h"
+#include "ui/control.h"
+
+namespace eterlab::ui {
+
+/// A line edit in which the decimal key of the numeric keypad types ".", whatever the keyboard
+/// layout makes of it.
+class PointLineEdit : public QLineEdit {
+ public:
+  using QLineEdit::QLineEdit;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+};
+
+/// A box for one value.
+class TextBox final : public PointLineEdit {
+ public:
+  TextBox(Parent parent, std::string_view name, Tooltip tip = {});
+
+  /// Replaces the text; an edit like any other, so the change handler runs if it differs.
+  TextBox& operator=(std::string_view text);
+  [[nodiscard]] std::string content() const;
+  /// The number that the text begins with, see leading_number.
+  [[nodiscard]] Real number() const;
+
+  /// Every change of the text: by key, by paste, by assignment.
+  void on_change(Handler handler);
+};
+
+}  // namespace eterlab::ui

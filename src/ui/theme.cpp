@@ -1,0 +1,78 @@
+#include "ui/theme.h"
+
+#include <QApplication>
+#include <QFontMetrics>
+#include <QPalette>
+#include <QProxyStyle>
+#include <algorithm>
+
+namespace eterlab::ui::theme {
+
+namespace {
+
+constexpr double smallest_readable_points = 10;
+constexpr double note_scale = 0.92;
+constexpr double result_scale = 1.08;
+/// Opacity of quiet text out of 255, dark enough for tired eyes on a light window.
+constexpr int quiet_alpha = 200;
+
+class Style final : public QProxyStyle {
+ public:
+  Style() : QProxyStyle{"Fusion"} {}
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override {
+    // The main window's ten menus stand in one row.
+    return metric == PM_MenuBarItemSpacing ? 0 : QProxyStyle::pixelMetric(metric, option, widget);
+  }
+};
+
+QFont scaled(QFont font, double factor) {
+  if (font.pointSizeF() > 0) {
+    font.setPointSizeF(font.pointSizeF() * factor);
+  } else {
+    font.setPixelSize(qRound(font.pixelSize() * factor));
+  }
+  return font;
+}
+
+}  // namespace
+
+void apply(QApplication& application) {
+  QApplication::setStyle(new Style);
+  QFont font = QApplication::font();
+  if (font.pointSizeF() > 0) {
+    font.setPointSizeF(std::max(font.pointSizeF(), smallest_readable_points));
+    QApplication::setFont(font);
+  }
+  QPalette palette = application.palette();
+  QColor quiet = palette.color(QPalette::WindowText);
+  quiet.setAlpha(quiet_alpha);
+  palette.setColor(QPalette::PlaceholderText, quiet);
+  QApplication::setPalette(palette);
+}
+
+QFont font_of(Label::Role role) {
+  QFont font = QApplication::font();
+  switch (role) {
+    case Label::Role::note:
+      return scaled(font, note_scale);
+    case Label::Role::result:
+      font.setWeight(QFont::DemiBold);
+      return scaled(font, result_scale);
+    case Label::Role::drawing:
+      font.setWeight(QFont::DemiBold);
+      return font;
+    case Label::Role::text:
+      break;
+  }
+  return font;
+}
+
+int characters(int count) { return QFontMetrics{QApplication::font()}.averageCharWidth() * count; }
+
+int spacing() { return QFontMetrics{QApplication::font()}.height(); }
+
+int margin() { return spacing() * 3 / 4; }
+
+}  // namespace eterlab::ui::theme

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QFont>
+
+#include "ui/label.h"
+
+class QApplication;
+
+// The one place that says how the program looks: style, type scale, distances.
+
+namespace eterlab::ui::theme {
+
+/// Sets style, font and colours; once, before the first window.
+void apply(QApplication& application);
+
+QFont font_of(Label::Role role);
+
+/// Width of a text of so many average characters in the user's font.
+int characters(int count);
+
+/// Distance between unrelated things; related ones stand at half of it.
+int spacing();
+
+/// Around what a window or frame holds.
+int margin();
+
+}  // namespace eterlab::ui::theme

@@ -1,0 +1,150 @@
+#include "ui/window.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLayout>
+#include <QPushButton>
+#include <algorithm>
+#include <vector>
+
+#include "ui/desktop.h"
+#include "ui/fixed_area.h"
+#include "ui/label.h"
+#include "ui/message_box.h"
+#include "ui/text.h"
+#include "ui/text_box.h"
+#include "ui/theme.h"
+
+namespace eterlab::ui {
+
+Window::Window(std::string_view name, std::string_view title) {
+  setObjectName(to_qt(name));
+  setWindowTitle(to_qt(title));
+}
+
+void Window::bring_forward() {
+  if (isMinimized()) {
+    showNormal();
+  }
+  show();
+  raise();
+  activateWindow();
+}
+
+void Window::arrange(const Item& contents, int width_in_characters) {
+  contents.fill(*this, theme::margin());
+  layout()->setSizeConstraint(QLayout::SetNoConstraint);
+  set_tab_order(*this);
+  least_ = {theme::characters(width_in_characters), 0};
+  fit();
+}
+
+void Window::arrange(FixedArea& area) {
+  Item{area}.fill(*this, 0);
+  set_tab_order(*this);
+  fit();
+}
+
+void Window::set_client_area(TwipsSize size) {
+  const QWidget* menu_bar = layout()->menuBar();
+  const int above = menu_bar == nullptr ? 0 : menu_bar->sizeHint().height();
+  least_ = size.pixels() + QSize{0, above};
+  fit();
+}
+
+void Window::fit() {
+  layout()->activate();
+  const int width = std::max(least_.width(), layout()->totalMinimumSize().width());
+  const int height = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width)
+                                                   : layout()->totalSizeHint().height();
+  least_ = {width, std::max(least_.height(), height)};  // it never shrinks under the user's eyes
+  setFixedSize(least_);
+}
+
+void Window::refuse(TextBox& focus, std::string_view text, std::string_view title) {
+  message_box(this, Icon::exclamation, title, text);
+  focus.setFocus();
+}
+
+void Window::open(std::string_view window, Showing showing) {
+  Desktop::instance().show(window, showing);
+}
+
+void Window::open_companion(std::string_view companion, TwipsPoint caller_corner,
+                            TwipsPoint companion_corner) {
+  Desktop& desktop = Desktop::instance();
+  move_to(caller_corner);
+  desktop.place(companion, companion_corner);
+  desktop.show(companion);
+}
+
+void Window::blank_on_change(std::initializer_list<TextBox*> boxes,
+                             std::initializer_list<Label*> results) {
+  for (TextBox* box : boxes) {
+    box->on_change([labels = std::vector<Label*>{results}] {
+      for (Label* label : labels) {
+        *label = "";
+      }
+    });
+  }
+}
+
+bool Window::event(QEvent* event) {
+  // A text has become longer than the room that its window was opened with.
+  if (event->type() == QEvent::LayoutRequest && layout() != nullptr) {
+    const bool handled = QWidget::event(event);
+    fit();
+    return handled;
+  }
+  return QWidget::event(event);
+}
+
+void Window::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape && escape_closes_) {
+    close();
+    return;
+  }
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (QPushButton* button = button_for_enter(); button != nullptr) {
+      button->click();
+      return;
+    }
+  }
+  QWidget::keyPressEvent(event);
+}
+
+QPushButton* Window::button_for_enter() const {
+  if (auto* focused = qobject_cast<QPushButton*>(focusWidget()); focused != nullptr) {
+    return focused;
+  }
+  for (QPushButton* button : findChildren<QPushButton*>()) {
+    if (button->isDefault() && button->isVisible()) {
+      return button;
+    }
+  }
+  return nullptr;
+}
+
+void Window::closeEvent(QCloseEvent* event) {
+  event->accept();
+  Desktop::instance().forget(*this);
+}
+
+void Window::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  if (!was_shown_) {
+    was_shown_ = true;
+    focus_first_input();
+  }
+}
+
+void Window::focus_first_input() {
+  for (QWidget* at = nextInFocusChain(); at != this; at = at->nextInFocusChain()) {
+    if (qobject_cast<QLineEdit*>(at) != nullptr && at->isVisibleTo(this)) {
+      at->setFocus();
+      return;
+    }
+  }
+}
+
+}  // namespace eterlab::ui

@@ -1,0 +1,95 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QObject>
+#include <QString>
+#include <QWidget>
+#include <iosfwd>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "common/regional_settings.h"
+#include "ui/desktop.h"
+#include "ui/showing.h"
+#include "ui/window.h"
+
+namespace eterlab::test {
+
+inline RegionalSettings italian() { return {",", ".", 3, 3, 2}; }
+inline RegionalSettings english() { return {".", ",", 3, 3, 2}; }
+
+/// A message box that came up and was answered with OK.
+struct Box {
+  std::string title;
+  std::string text;
+  bool is_critical = false;
+  friend bool operator==(const Box&, const Box&) = default;
+};
+std::ostream& operator<<(std::ostream& out, const Box& box);
+
+Box error(std::string_view text);  ///< the usual title
+Box notice(std::string_view text);
+
+/// Records message boxes and answers them, so that a test can go on.
+class BoxWatcher final : public QObject {
+ public:
+  BoxWatcher();
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  std::vector<Box> boxes;
+};
+
+/// A window as a user has it before him: controls are found by their names, used with key and mouse
+/// events, and read.
+class Driven {
+ public:
+  explicit Driven(QWidget& window) : window_{&window} {}
+
+  [[nodiscard]] QWidget& window() const { return *window_; }
+  /// Fails the test when there is no control of that name.
+  [[nodiscard]] QWidget& control(std::string_view name) const;
+
+  /// Replaces the text of a box, key by key.
+  void type(std::string_view box, std::string_view text) const;
+  void clear(std::string_view box) const { type(box, ""); }
+  void press(Qt::Key key) const;
+  void click(std::string_view control) const;
+
+  /// Text of a label, box, option or button; title of a frame.
+  [[nodiscard]] std::string text(std::string_view control) const;
+  [[nodiscard]] std::string tooltip(std::string_view control) const;
+  [[nodiscard]] bool shows(std::string_view control) const;
+  /// Text colour as "#rrggbb".
+  [[nodiscard]] std::string colour(std::string_view control) const;
+  [[nodiscard]] std::string focus() const;
+
+ private:
+  QWidget* window_;
+};
+
+/// Each test starts the program anew, with English settings.
+class WindowTest : public ::testing::Test {
+ protected:
+  WindowTest();
+  ~WindowTest() override;
+
+  /// Chooses an entry of the main window's menu bar and gives the window that it opened.
+  Driven choose(std::string_view menu_entry);
+  Driven main_window() { return driven("FRMETERLAB"); }
+  Driven driven(std::string_view window);
+  [[nodiscard]] bool is_open(std::string_view window) const;
+  void close(std::string_view window);
+
+  /// The boxes since the last call.
+  std::vector<Box> boxes();
+  [[nodiscard]] bool has_ended() const { return has_ended_; }
+  ui::Desktop& desktop() { return desktop_; }
+
+ private:
+  BoxWatcher watcher_;
+  bool has_ended_ = false;
+  ui::Desktop desktop_;
+};
+
+}  // namespace eterlab::test
