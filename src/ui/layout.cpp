@@ -3,6 +3,7 @@
 #include <QBoxLayout>
 #include <QGridLayout>
 
+#include "ui/combo_box.h"
 #include "ui/label.h"
 #include "ui/option_array.h"
 #include "ui/text_box.h"
@@ -99,6 +100,11 @@ Field field(Label& prompt, TextBox& box) {
 Field field(Label& prompt, TextBox& box, Label& unit) {
   prompt.set_prompt_of(box);
   return {&prompt, &box, &unit};
+}
+
+Field field(Label& prompt, ComboBox& box) {
+  prompt.set_prompt_of(box);
+  return {&prompt, &box, nullptr};
 }
 
 Field field(Label& name, Label& value) { return {&name, &value, nullptr}; }

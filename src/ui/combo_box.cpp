@@ -1,0 +1,43 @@
+#include "ui/combo_box.h"
+
+#include <QLineEdit>
+
+#include "ui/desktop.h"
+#include "ui/text.h"
+#include "ui/text_box.h"
+
+namespace eterlab::ui {
+
+ComboBox::ComboBox(Parent parent, std::string_view name, std::string_view text, Tooltip tip)
+    : QComboBox{parent.widget()} {
+  set_up(*this, name, tip);
+  setAccessibleName(toolTip());
+  setLineEdit(new PointLineEdit);
+  setCompleter(nullptr);
+  setInsertPolicy(NoInsert);
+  // The toolkit would choose the entry whose text has been typed, on Enter and when the focus goes.
+  lineEdit()->disconnect(SIGNAL(returnPressed()), this);
+  lineEdit()->disconnect(SIGNAL(editingFinished()), this);
+  connect(this, &QComboBox::activated, this, [this](int index) { chosen_ = index; });
+  setEditText(to_qt(text));
+}
+
+void ComboBox::add(std::string_view entry, int value) {
+  const QString shown = currentText();
+  addItem(to_qt(entry), value);
+  setCurrentIndex(chosen_);  // the toolkit would show the first entry
+  setEditText(shown);
+}
+
+std::string ComboBox::content() const { return from_qt(currentText()); }
+
+void ComboBox::on_choose(const Handler& handler) {
+  connect(this, &QComboBox::activated, this, [handler] { Desktop::instance().run(handler); });
+}
+
+void ComboBox::choose(int index) {
+  setCurrentIndex(index);
+  emit activated(index);
+}
+
+}  // namespace eterlab::ui

@@ -1,0 +1,339 @@
+#include "ui/schematic.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTransform>
+#include <cmath>
+#include <utility>
+
+#include "ui/desktop.h"
+#include "ui/label.h"
+#include "ui/text.h"
+#include "ui/theme.h"
+
+namespace eterlab::ui {
+
+namespace {
+
+using At = Schematic::At;
+
+// Widths of lines, in grid steps.
+constexpr double line_width = 0.19;
+constexpr double thin_line_width = 0.12;
+constexpr double rod_width = 0.5;
+
+QPointF point(At at) { return {at.x, at.y}; }
+
+void add_lines(QPainterPath& path, std::initializer_list<At> corners) {
+  bool first = true;
+  for (const At& corner : corners) {
+    if (first) {
+      path.moveTo(point(corner));
+    } else {
+      path.lineTo(point(corner));
+    }
+    first = false;
+  }
+}
+
+void add_line(QPainterPath& path, QPointF from, QPointF to) {
+  path.moveTo(from);
+  path.lineTo(to);
+}
+
+/// From the x axis at the origin to the line between two points.
+QTransform along(At from, At to) {
+  constexpr double degrees_in_radian = 57.29577951308232;
+  const QPointF span = point(to) - point(from);
+  const QPointF middle = (point(from) + point(to)) / 2;
+  return QTransform::fromTranslate(middle.x(), middle.y())
+      .rotate(std::atan2(span.y(), span.x()) * degrees_in_radian);
+}
+
+/// A diode's triangle and the start of its bar, pointing along the x axis.
+QPainterPath diode_outline() {
+  QPainterPath outline;
+  outline.addPolygon(QPolygonF{{{-0.9, -1}, {0.9, 0}, {-0.9, 1}, {-0.9, -1}}});
+  add_line(outline, {0.9, -1}, {0.9, 1});
+  return outline;
+}
+
+constexpr double diode_half = 0.9;
+
+}  // namespace
+
+Schematic::Schematic(Parent parent, std::string_view name, int columns, int rows, Tooltip tip)
+    : QWidget{parent.widget()}, columns_{columns}, rows_{rows} {
+  set_up(*this, name, tip);
+  setFixedSize(sizeHint());
+  solids_.setFillRule(Qt::WindingFill);
+}
+
+double Schematic::step() const { return theme::spacing() / 2.0; }
+
+QSize Schematic::sizeHint() const {
+  return {static_cast<int>(std::ceil(columns_ * step())),
+          static_cast<int>(std::ceil(rows_ * step()))};
+}
+
+Schematic& Schematic::wire(std::initializer_list<At> corners) {
+  add_lines(lines_, corners);
+  return *this;
+}
+
+Schematic& Schematic::dashed(std::initializer_list<At> corners) {
+  add_lines(dashed_lines_, corners);
+  return *this;
+}
+
+Schematic& Schematic::rod(std::initializer_list<At> corners) {
+  add_lines(rods_, corners);
+  return *this;
+}
+
+Schematic& Schematic::dimension(At from, At to) {
+  arrow(from, to);
+  arrow_head(to, from);
+  return *this;
+}
+
+Schematic& Schematic::arrow(At from, At to) {
+  add_lines(thin_lines_, {from, to});
+  arrow_head(from, to);
+  return *this;
+}
+
+void Schematic::arrow_head(At from, At to) {
+  constexpr double length = 0.9;
+  constexpr double half_width = 0.3;
+  const QPointF span = point(to) - point(from);
+  const double distance = std::hypot(span.x(), span.y());
+  if (distance == 0) {
+    return;
+  }
+  const QPointF back = span / distance * -length;
+  const QPointF across{back.y() / length * half_width, -back.x() / length * half_width};
+  const QPointF tip = point(to);
+  solids_.addPolygon(QPolygonF{{tip, tip + back + across, tip + back - across, tip}});
+}
+
+Schematic& Schematic::circle(At centre, double radius) {
+  lines_.addEllipse(point(centre), radius, radius);
+  return *this;
+}
+
+Schematic& Schematic::box(At top_left, At bottom_right) {
+  lines_.addRect(QRectF{point(top_left), point(bottom_right)});
+  return *this;
+}
+
+void Schematic::part(At from, At to, double half, const QPainterPath& outline,
+                     const QPainterPath& filled) {
+  const QTransform placed = along(from, to);
+  lines_.addPath(placed.map(outline));
+  solids_.addPath(placed.map(filled));
+  add_line(lines_, point(from), placed.map(QPointF{-half, 0}));
+  add_line(lines_, placed.map(QPointF{half, 0}), point(to));
+}
+
+Schematic& Schematic::resistor(At from, At to) {
+  constexpr double half = 1.8;
+  constexpr double half_height = 0.65;
+  QPainterPath outline;
+  outline.addRect(-half, -half_height, 2 * half, 2 * half_height);
+  part(from, to, half, outline);
+  return *this;
+}
+
+Schematic& Schematic::capacitor(At from, At to) {
+  constexpr double half_gap = 0.35;
+  constexpr double half_plate = 1.3;
+  QPainterPath outline;
+  add_line(outline, {-half_gap, -half_plate}, {-half_gap, half_plate});
+  add_line(outline, {half_gap, -half_plate}, {half_gap, half_plate});
+  part(from, to, half_gap, outline);
+  return *this;
+}
+
+Schematic& Schematic::electrolytic(At from, At to) {
+  constexpr double half_gap = 0.55;
+  constexpr double half_plate = 1.3;
+  constexpr double thickness = 0.45;
+  QPainterPath outline;
+  outline.addRect(-half_gap, -half_plate, thickness, 2 * half_plate);
+  // The sign of the positive plate, beside it.
+  add_line(outline, {-1.9, -1.1}, {-1.1, -1.1});
+  add_line(outline, {-1.5, -1.5}, {-1.5, -0.7});
+  QPainterPath negative_plate;
+  negative_plate.addRect(half_gap - thickness, -half_plate, thickness, 2 * half_plate);
+  part(from, to, half_gap, outline, negative_plate);
+  return *this;
+}
+
+Schematic& Schematic::inductor(At from, At to) {
+  constexpr int humps = 4;
+  constexpr double hump = 1;
+  constexpr double half = humps * hump / 2;
+  QPainterPath outline{{-half, 0}};
+  for (int i = 0; i < humps; ++i) {
+    outline.arcTo(-half + i * hump, -hump / 2, hump, hump, 180, -180);
+  }
+  part(from, to, half, outline);
+  return *this;
+}
+
+Schematic& Schematic::diode(At from, At to) {
+  part(from, to, diode_half, diode_outline());
+  return *this;
+}
+
+Schematic& Schematic::zener(At from, At to) {
+  QPainterPath outline = diode_outline();
+  add_line(outline, {diode_half, -1}, {0.45, -1});  // the bent end of the bar
+  part(from, to, diode_half, outline);
+  return *this;
+}
+
+Schematic& Schematic::led(At from, At to) {
+  QPainterPath outline = diode_outline();
+  QPainterPath heads;
+  for (const double x : {-0.3, 0.6}) {  // two rays of light
+    const QPointF tip{x + 0.8, -2.5};
+    add_line(outline, {x, -1.3}, tip);
+    heads.addPolygon(QPolygonF{{tip, tip + QPointF{-0.65, 0.3}, tip + QPointF{-0.05, 0.75}, tip}});
+  }
+  part(from, to, diode_half, outline, heads);
+  return *this;
+}
+
+Schematic& Schematic::ground(At place) {
+  constexpr double stem = 0.8;
+  constexpr double gap = 0.45;
+  add_lines(lines_, {place, {place.x, place.y + stem}});
+  double half = 1.2;
+  for (int bar = 0; bar < 3; ++bar) {
+    const double y = place.y + stem + bar * gap;
+    add_lines(lines_, {{place.x - half, y}, {place.x + half, y}});
+    half -= 0.4;
+  }
+  return *this;
+}
+
+Schematic& Schematic::terminal(At place) {
+  constexpr double radius = 0.35;
+  lines_.addEllipse(point(place), radius, radius);
+  return *this;
+}
+
+Schematic& Schematic::junction(At place) {
+  constexpr double radius = 0.3;
+  solids_.addEllipse(point(place), radius, radius);
+  return *this;
+}
+
+Schematic& Schematic::mark(At place, std::string_view text) {
+  marks_.push_back({place, to_qt(text)});
+  return *this;
+}
+
+Schematic& Schematic::winding(At from, At to, double diameter, int turns) {
+  const QTransform placed = along(from, to);
+  const double length = std::hypot(to.x - from.x, to.y - from.y);
+  const double pitch = length / turns;
+  const double radius = diameter / 2;
+  QPainterPath front;
+  QPainterPath back;
+  for (int turn = 0; turn < turns; ++turn) {
+    const double x = -length / 2 + turn * pitch;
+    front.moveTo(x, radius);
+    front.cubicTo(x - pitch * 0.3, radius, x + pitch * 0.2, -radius, x + pitch / 2, -radius);
+    back.moveTo(x + pitch / 2, -radius);
+    back.cubicTo(x + pitch * 0.8, -radius, x + pitch * 0.9, radius, x + pitch, radius);
+  }
+  lines_.addPath(placed.map(front));
+  thin_lines_.addPath(placed.map(back));
+  return *this;
+}
+
+Schematic& Schematic::label(Label& label, At place, Side side) {
+  Q_ASSERT(label.parentWidget() == this);
+  label.set_role(Label::Role::drawing);
+  labels_.push_back({&label, place, side});
+  place_labels();
+  return *this;
+}
+
+void Schematic::place_labels() {
+  const double gap = step() / 2;
+  for (const Placed& placed : labels_) {
+    placed.label->adjustSize();
+    const QSizeF size = placed.label->size();
+    QPointF corner = point(placed.place) * step() - QPointF{size.width() / 2, size.height() / 2};
+    switch (placed.side) {
+      case Side::above:
+        corner.ry() -= size.height() / 2 + gap / 2;
+        break;
+      case Side::below:
+        corner.ry() += size.height() / 2 + gap / 2;
+        break;
+      case Side::left:
+        corner.rx() -= size.width() / 2 + gap;
+        break;
+      case Side::right:
+        corner.rx() += size.width() / 2 + gap;
+        break;
+      case Side::centre:
+        break;
+    }
+    placed.label->move(corner.toPoint());
+  }
+}
+
+void Schematic::on_click(Handler handler) {
+  click_handler_ = std::move(handler);
+  setCursor(Qt::PointingHandCursor);
+}
+
+bool Schematic::event(QEvent* event) {
+  // A label on the drawing has a new text.
+  if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show) {
+    place_labels();
+  }
+  return QWidget::event(event);
+}
+
+void Schematic::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter{this};
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QColor ink = palette().color(foregroundRole());
+
+  painter.save();
+  painter.scale(step(), step());
+  const auto stroke = [&](const QPainterPath& path, double width, Qt::PenStyle style,
+                          Qt::PenCapStyle cap) {
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen{ink, width, style, cap, Qt::MiterJoin});
+    painter.drawPath(path);
+  };
+  stroke(thin_lines_, thin_line_width, Qt::SolidLine, Qt::FlatCap);
+  stroke(dashed_lines_, thin_line_width, Qt::DashLine, Qt::FlatCap);
+  stroke(lines_, line_width, Qt::SolidLine, Qt::SquareCap);
+  stroke(rods_, rod_width, Qt::SolidLine, Qt::FlatCap);
+  painter.fillPath(solids_, ink);
+  painter.restore();
+
+  painter.setPen(ink);
+  for (const Mark& mark : marks_) {
+    QRectF around{0, 0, width() * 1.0, 4 * step()};
+    around.moveCenter(point(mark.place) * step());
+    painter.drawText(around, Qt::AlignCenter, mark.text);
+  }
+}
+
+void Schematic::mouseReleaseEvent(QMouseEvent* event) {
+  if (click_handler_ && event->button() == Qt::LeftButton && rect().contains(event->pos())) {
+    Desktop::instance().run(click_handler_);
+  }
+}
+
+}  // namespace eterlab::ui

@@ -1,0 +1,107 @@
+#pragma once
+
+#include <QPainterPath>
+#include <QWidget>
+#include <cstdint>
+#include <initializer_list>
+#include <string_view>
+#include <vector>
+
+#include "ui/control.h"
+
+namespace eterlab::ui {
+
+class Label;
+
+/// A drawing of lines and standard symbols (IEC 60617) on a grid, with the labels of the window at
+/// their places on it. A grid step is half a line of the user's font, so the drawing grows with the
+/// text. Lines take the colour of text.
+class Schematic final : public QWidget {
+ public:
+  /// A place on the grid: steps from the left and from the top.
+  struct At {
+    double x = 0;
+    double y = 0;
+  };
+  /// Where a label stands, seen from its place.
+  enum class Side : std::uint8_t { centre, above, below, left, right };
+
+  Schematic(Parent parent, std::string_view name, int columns, int rows, Tooltip tip = {});
+
+  // Lines
+  Schematic& wire(std::initializer_list<At> corners);
+  Schematic& dashed(std::initializer_list<At> corners);
+  /// A conductor of an antenna: a rod or tube.
+  Schematic& rod(std::initializer_list<At> corners);
+  /// Thin, with an arrow head at both ends: tells what a length is measured between.
+  Schematic& dimension(At from, At to);
+  /// Thin, with an arrow head at its end.
+  Schematic& arrow(At from, At to);
+  Schematic& circle(At centre, double radius);
+  Schematic& box(At top_left, At bottom_right);
+
+  // Two-terminal parts, in the middle of their wires
+  Schematic& resistor(At from, At to);
+  Schematic& capacitor(At from, At to);
+  /// The plate towards `from` is the positive one.
+  Schematic& electrolytic(At from, At to);
+  Schematic& inductor(At from, At to);
+  /// Current flows from `from` to `to`.
+  Schematic& diode(At from, At to);
+  Schematic& zener(At from, At to);
+  Schematic& led(At from, At to);
+
+  // Marks
+  Schematic& ground(At place);
+  Schematic& terminal(At place);                     ///< a small circle: input or output
+  Schematic& junction(At place);                     ///< a dot where wires meet
+  Schematic& mark(At place, std::string_view text);  ///< a short fixed sign, such as "+"
+  /// A coil seen from the side: turns around a form between two points of its axis.
+  Schematic& winding(At from, At to, double diameter, int turns);
+
+  /// Puts a label beside a place, where it stays whatever its text becomes. The label must have
+  /// been made with this drawing as its parent.
+  Schematic& label(Label& label, At place, Side side = Side::centre);
+
+  /// The whole drawing becomes something to click.
+  void on_click(Handler handler);
+
+  [[nodiscard]] QSize sizeHint() const override;
+
+ protected:
+  bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  struct Placed {
+    Label* label;
+    At place;
+    Side side;
+  };
+  struct Mark {
+    At place;
+    QString text;
+  };
+
+  /// Draws a symbol that is laid out along the x axis, centred on the origin, and its two wires.
+  /// `half` is half the length of the symbol.
+  void part(At from, At to, double half, const QPainterPath& outline,
+            const QPainterPath& filled = {});
+  void arrow_head(At from, At to);
+  void place_labels();
+  [[nodiscard]] double step() const;
+
+  int columns_;
+  int rows_;
+  QPainterPath lines_;
+  QPainterPath thin_lines_;
+  QPainterPath dashed_lines_;
+  QPainterPath rods_;
+  QPainterPath solids_;
+  std::vector<Mark> marks_;
+  std::vector<Placed> labels_;
+  Handler click_handler_;
+};
+
+}  // namespace eterlab::ui
