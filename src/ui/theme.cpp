@@ -25,6 +25,14 @@ class Style final : public QProxyStyle {
     // The main window's ten menus stand in one row.
     return metric == PM_MenuBarItemSpacing ? 0 : QProxyStyle::pixelMetric(metric, option, widget);
   }
+
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    // "OK" needs no picture.
+    return hint == SH_DialogButtonBox_ButtonsHaveIcons
+               ? 0
+               : QProxyStyle::styleHint(hint, option, widget, data);
+  }
 };
 
 QFont scaled(QFont font, double factor) {
