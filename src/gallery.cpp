@@ -34,6 +34,8 @@ int main(int argc, char* argv[]) {
     ui::Window& window = *desktop.load(name);
     window.show();
     window.show_example();
+    // A text that grows inside a frame moves first the frame's layout, then the window's.
+    QApplication::processEvents();
     QApplication::processEvents();
     const QString file = folder.filePath(window.objectName() + ".png");
     if (!window.grab().save(file)) {

@@ -80,7 +80,7 @@ class AllWindows : public test::WindowTest {
  protected:
   QWidget& open(const std::string& name) {
     desktop().show(name);
-    QApplication::processEvents();
+    settle();
     return driven(name).window();
   }
 };
@@ -127,7 +127,7 @@ TEST_F(AllWindows, AreLaidOutSoundlyInEveryFontSize) {
       }
       expect_sound_layout(open(name));
       desktop().find(name)->show_example();
-      QApplication::processEvents();
+      settle();
       expect_sound_layout(driven(name).window());
     }
   }

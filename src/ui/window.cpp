@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLayout>
 #include <QPushButton>
+#include <QScreen>
 #include <algorithm>
 #include <vector>
 
@@ -76,6 +77,20 @@ void Window::open_companion(std::string_view companion, TwipsPoint caller_corner
   move_to(caller_corner);
   desktop.place(companion, companion_corner);
   desktop.show(companion);
+}
+
+void Window::place(std::string_view window, TwipsPoint corner) {
+  Desktop::instance().place(window, corner);
+}
+
+void Window::centre_across_screen(int top_twips) {
+  const QRect whole = screen()->geometry();
+  move(whole.left() + (whole.width() - width()) / 2, pixels_from_twips(top_twips));
+}
+
+void Window::centre_on_screen() {
+  const QRect whole = screen()->geometry();
+  move(whole.center() - rect().center());
 }
 
 void Window::blank_on_change(std::initializer_list<TextBox*> boxes,

@@ -30,7 +30,9 @@ class Window : public QWidget {
   /// Uses the window as a user would for a telling example; for the gallery and for tests.
   virtual void show_example() {}
 
-  void bring_forward();
+  /// In front of the other windows, also from a minimized state. A window that stands with another
+  /// one extends this.
+  virtual void bring_forward();
 
  protected:
   /// What stands on the window. It is wide enough for its contents and for so many average
@@ -54,12 +56,18 @@ class Window : public QWidget {
   /// Moves this window, moves the companion, shows it.
   void open_companion(std::string_view companion, TwipsPoint caller_corner,
                       TwipsPoint companion_corner);
+  /// Moves another window, loading it if needed.
+  static void place(std::string_view window, TwipsPoint corner);
   void move_to(TwipsPoint corner) { move(corner.pixels()); }
+  /// In the middle of the screen's width, so far from its top.
+  void centre_across_screen(int top_twips);
+  /// In the middle of the screen.
+  void centre_on_screen();
 
   /// Any change of these boxes empties these labels, so that no result stands beside inputs that
   /// did not produce it.
-  void blank_on_change(std::initializer_list<TextBox*> boxes,
-                       std::initializer_list<Label*> results);
+  static void blank_on_change(std::initializer_list<TextBox*> boxes,
+                              std::initializer_list<Label*> results);
 
   bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;

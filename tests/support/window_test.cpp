@@ -112,7 +112,7 @@ Driven WindowTest::choose(std::string_view menu_entry) {
     throw std::runtime_error{"no menu entry " + std::string{menu_entry}};
   }
   action->trigger();
-  QApplication::processEvents();
+  settle();
   for (const shell::MenuEntry& entry : shell::menu_catalogue()) {
     if (entry.name == menu_entry) {
       return driven(entry.window);
@@ -132,6 +132,12 @@ Driven WindowTest::driven(std::string_view window) {
 bool WindowTest::is_open(std::string_view window) const {
   const ui::Window* found = desktop_.find(window);
   return found != nullptr && found->isVisible();
+}
+
+void WindowTest::settle() {
+  for (int pass = 0; pass < 3; ++pass) {
+    QApplication::processEvents();
+  }
 }
 
 void WindowTest::close(std::string_view window) { driven(window).window().close(); }

@@ -70,9 +70,11 @@ class Driven {
 
 /// Each test starts the program anew, with English settings.
 class WindowTest : public ::testing::Test {
+ public:
+  ~WindowTest() override;
+
  protected:
   WindowTest();
-  ~WindowTest() override;
 
   /// Chooses an entry of the main window's menu bar and gives the window that it opened.
   Driven choose(std::string_view menu_entry);
@@ -80,6 +82,9 @@ class WindowTest : public ::testing::Test {
   Driven driven(std::string_view window);
   [[nodiscard]] bool is_open(std::string_view window) const;
   void close(std::string_view window);
+  /// Lets the event loop do what it was asked for. A text that grows inside a frame moves first the
+  /// frame's layout, then the window's.
+  static void settle();
 
   /// The boxes since the last call.
   std::vector<Box> boxes();

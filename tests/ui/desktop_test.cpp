@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QPointer>
+#include <QScreen>
+#include <cstdlib>
 
 #include "support/window_test.h"
 #include "ui/registry.h"
@@ -20,16 +22,18 @@ class frmprova final : public ui::Window {
   ui::Result lblprova{this, "lblprova"};
   ui::Button cmdcompagna{this, "cmdcompagna", "COMPAGNA"};
   ui::Button cmdmanca{this, "cmdmanca", "MANCA"};
+  ui::Button cmdcentro{this, "cmdcentro", "CENTRO"};
   ui::ComputeButton cmdcalcola{this, "cmdcalcola"};
   ui::ExitButton cmdesci{this, "cmdesci"};
 
  public:
   frmprova() : Window{"frmprova", "PROVA"} {
-    arrange(
-        ui::column(txtprova, lblprova, ui::buttons(cmdcompagna, cmdmanca, cmdcalcola, cmdesci)));
+    arrange(ui::column(txtprova, lblprova,
+                       ui::buttons(cmdcompagna, cmdmanca, cmdcentro, cmdcalcola, cmdesci)));
     txtprova.on_change([this] { lblprova = std::to_string((1 / txtprova.number()).value()); });
     cmdcompagna.on_click([this] { open_companion("frmvoltwatt", {180, 300}, {4100, 2800}); });
     cmdmanca.on_click([this] { open_companion("frmnessuna", {180, 300}, {4100, 2800}); });
+    cmdcentro.on_click([this] { centre_on_screen(); });
     cmdcalcola.on_click([this] { txtprova = "0"; });
   }
   void load() override { lblprova = "caricata"; }
@@ -88,6 +92,15 @@ TEST_F(Desktop, CompanionsStandAtTheirPlaces) {
 
   window.click("cmdmanca");
   EXPECT_EQ(boxes(), Boxes{test::notice("FINESTRA NON ANCORA DISPONIBILE")});
+}
+
+TEST_F(Desktop, CentresAWindow) {
+  const test::Driven window = open();
+  window.click("cmdcentro");
+  const QPoint off =
+      window.window().geometry().center() - window.window().screen()->geometry().center();
+  EXPECT_LE(std::abs(off.x()), 1);
+  EXPECT_LE(std::abs(off.y()), 1);
 }
 
 TEST_F(Desktop, EnterComputesAndPressesAFocusedButton) {
