@@ -108,6 +108,14 @@ TEST_F(frmbobine, Texts) {
   EXPECT_EQ(window.tooltip("lbldiametro"), "calcolato al centro spira");
 }
 
+TEST_F(frmbobine, StandsBesideTheWireGauges) {
+  window.click("cmdchiamaawg");
+  EXPECT_EQ(window.window().pos(), QPoint(12, 12));
+  EXPECT_EQ(driven("frmawg").window().pos(), QPoint(273, 200));
+  EXPECT_TRUE(is_open("frmawg"));
+  EXPECT_FALSE(driven("frmawg").window().isModal());
+}
+
 TEST_F(frmbobine, AsksForTheVhfCoils) {
   window.click("cmdaprevhf");
   EXPECT_EQ(boxes(), Boxes{test::notice("FINESTRA NON ANCORA DISPONIBILE")});
