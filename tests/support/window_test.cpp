@@ -1,5 +1,6 @@
 #include "support/window_test.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
@@ -67,6 +68,16 @@ void Driven::press(Qt::Key key) const {
 
 void Driven::click(std::string_view name) const {
   QTest::mouseClick(&control(name), Qt::LeftButton);
+}
+
+void Driven::pick(std::string_view name, int entry) const {
+  auto& box = dynamic_cast<QComboBox&>(control(name));
+  box.setFocus();
+  QTest::keyClick(&box, Qt::Key_Down, Qt::AltModifier);
+  const QModelIndex index = box.model()->index(entry, box.modelColumn());
+  box.view()->scrollTo(index);
+  QTest::mouseClick(box.view()->viewport(), Qt::LeftButton, {},
+                    box.view()->visualRect(index).center());
 }
 
 std::string Driven::text(std::string_view name) const {

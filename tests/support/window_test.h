@@ -55,6 +55,8 @@ class Driven {
   void clear(std::string_view box) const { type(box, ""); }
   void press(Qt::Key key) const;
   void click(std::string_view name) const;
+  /// Opens a drop-down list and clicks on the entry at that place.
+  void pick(std::string_view combo_box, int entry) const;
 
   /// Text of a label, box, option or button; title of a frame.
   [[nodiscard]] std::string text(std::string_view name) const;
