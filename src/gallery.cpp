@@ -1,7 +1,12 @@
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QDir>
+#include <QPainter>
+#include <QPixmap>
 #include <QTextStream>
+#include <algorithm>
 #include <cstdlib>
+#include <vector>
 
 #include "common/regional_settings.h"
 #include "ui/desktop.h"
@@ -11,40 +16,114 @@
 #include "ui/theme.h"
 #include "ui/window.h"
 
-// Renders every window, with a worked example typed in, to the PNG files of a folder:
-//
-//     eterlab-gallery FOLDER
+namespace eterlab {
+
+namespace {
+
+struct Picture {
+  QString name;
+  QPixmap pixels;
+};
+
+Picture picture_of(ui::Window& window) {
+  window.show();
+  window.show_example();
+  // A text that grows inside a frame moves first the frame's layout, then the window's.
+  QApplication::processEvents();
+  QApplication::processEvents();
+  Picture picture{window.objectName(), window.grab()};
+  window.close();
+  return picture;
+}
+
+/// All pictures side by side at half their size, each over its name.
+QPixmap contact_sheet(const std::vector<Picture>& pictures) {
+  constexpr int sheet_width = 2400;
+  constexpr int gap = 16;
+  const int name_height = QFontMetrics{QApplication::font()}.height();
+  struct Place {
+    QRect picture;
+    const Picture* of;
+  };
+  std::vector<Place> places;
+  QPoint corner{gap, gap};
+  int row_height = 0;
+  for (const Picture& picture : pictures) {
+    const QSize size = picture.pixels.deviceIndependentSize().toSize() / 2;
+    if (corner.x() + size.width() + gap > sheet_width) {
+      corner = {gap, corner.y() + row_height + name_height + gap};
+      row_height = 0;
+    }
+    places.push_back({{corner, size}, &picture});
+    corner.rx() += size.width() + gap;
+    row_height = std::max(row_height, size.height());
+  }
+
+  QPixmap sheet{sheet_width, corner.y() + row_height + name_height + gap};
+  sheet.fill(QApplication::palette().color(QPalette::Mid));
+  QPainter painter{&sheet};
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.setPen(QApplication::palette().color(QPalette::WindowText));
+  for (const Place& place : places) {
+    painter.drawPixmap(place.picture, place.of->pixels);
+    painter.drawText(QRect{place.picture.bottomLeft(), QSize{place.picture.width(), name_height}},
+                     Qt::AlignHCenter, place.of->name);
+  }
+  return sheet;
+}
+
+int render(const QDir& folder, QTextStream& out) {
+  folder.mkpath(".");
+  ui::Desktop desktop;
+  std::vector<Picture> pictures;
+  for (const std::string& name : ui::registry::names()) {
+    pictures.push_back(picture_of(*desktop.load(name)));
+  }
+  const auto save = [&](const QString& name, const QPixmap& pixels) {
+    const QString file = folder.filePath(name + ".png");
+    const bool is_saved = pixels.save(file);
+    if (!is_saved) {
+      out << "cannot write " << file << '\n';
+    }
+    return is_saved;
+  };
+  for (const Picture& picture : pictures) {
+    if (!save(picture.name, picture.pixels)) {
+      return EXIT_FAILURE;
+    }
+  }
+  if (!save("contact-sheet", contact_sheet(pictures))) {
+    return EXIT_FAILURE;
+  }
+  out << pictures.size() << " windows and a contact sheet rendered to " << folder.absolutePath()
+      << '\n';
+  return EXIT_SUCCESS;
+}
+
+}  // namespace
+
+}  // namespace eterlab
+
+// Renders every window, with a worked example typed in, to the PNG files of a folder.
 int main(int argc, char* argv[]) {
   using namespace eterlab;
 
   QApplication application{argc, argv};
-  QTextStream out{stdout};
-  if (QApplication::arguments().size() != 2) {
-    out << "usage: eterlab-gallery FOLDER\n";
-    return EXIT_FAILURE;
+  QCommandLineParser parser;
+  parser.addHelpOption();
+  const QCommandLineOption dark{"dark", "Render in the colours of a dark desktop."};
+  parser.addOption(dark);
+  parser.addPositionalArgument("folder", "Where the pictures go.");
+  parser.process(application);
+  if (parser.positionalArguments().size() != 1) {
+    parser.showHelp(EXIT_FAILURE);
   }
-  const QDir folder{QApplication::arguments().at(1)};
   ui::theme::apply(application);
+  if (parser.isSet(dark)) {
+    ui::theme::set_palette(ui::theme::dark_palette());
+  }
   set_regional_settings(ui::regional_settings_of(QLocale{QLocale::Italian, QLocale::Italy}));
 
-  folder.mkpath(".");
-  ui::Desktop desktop;
-  int pictures = 0;
-  for (const std::string& name : ui::registry::names()) {
-    ui::Window& window = *desktop.load(name);
-    window.show();
-    window.show_example();
-    // A text that grows inside a frame moves first the frame's layout, then the window's.
-    QApplication::processEvents();
-    QApplication::processEvents();
-    const QString file = folder.filePath(window.objectName() + ".png");
-    if (!window.grab().save(file)) {
-      out << "cannot write " << file << '\n';
-      return EXIT_FAILURE;
-    }
-    window.close();
-    ++pictures;
-  }
-  out << pictures << " windows rendered to " << folder.absolutePath() << '\n';
-  return EXIT_SUCCESS;
+  QTextStream out{stdout};
+  return render(QDir{parser.positionalArguments().constFirst()}, out);
 }

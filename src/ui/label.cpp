@@ -1,5 +1,6 @@
 #include "ui/label.h"
 
+#include <QAccessible>
 #include <QMouseEvent>
 #include <algorithm>
 #include <utility>
@@ -17,9 +18,13 @@ Label::Label(Parent parent, std::string_view name, std::string_view text, Toolti
   setText(to_qt(text));
 }
 
-Label& Label::operator=(std::string_view text) {
-  setText(to_qt(text));
-  name_prompted_box();
+Label& Label::operator=(std::string_view new_text) {
+  const bool is_new = from_qt(text()) != new_text;
+  setText(to_qt(new_text));
+  name_prompted();
+  if (is_new && tells_result()) {
+    announce();
+  }
   return *this;
 }
 
@@ -32,18 +37,32 @@ void Label::reserve(std::string_view longest_text) {
   setText(shown);
 }
 
-void Label::set_prompt_of(QWidget& box) {
-  setBuddy(&box);
-  prompted_box_ = &box;
-  unprompted_name_ = box.accessibleName();
-  name_prompted_box();
+void Label::set_prompt_of(QWidget& control) {
+  setBuddy(&control);
+  prompted_ = &control;
+  unprompted_name_ = control.accessibleName();
+  name_prompted();
 }
 
-void Label::name_prompted_box() {
-  if (prompted_box_ != nullptr) {
+void Label::name_prompted() {
+  if (prompted_ == nullptr) {
+    return;
+  }
+  const QString prompt = text().trimmed();
+  if (qobject_cast<QLabel*>(prompted_) != nullptr) {
+    prompted_->setAccessibleDescription(prompt);
+  } else {
     // A prompt that a mode has yet to write leaves the box the name it was made with.
-    const QString prompt = text().trimmed();
-    prompted_box_->setAccessibleName(prompt.isEmpty() ? unprompted_name_ : prompt);
+    prompted_->setAccessibleName(prompt.isEmpty() ? unprompted_name_ : prompt);
+  }
+}
+
+bool Label::tells_result() const { return role_ == Role::result || role_ == Role::drawing; }
+
+void Label::announce() {
+  if (isVisible() && !text().isEmpty()) {
+    QAccessibleEvent spoken{this, QAccessible::Alert};
+    QAccessible::updateAccessibility(&spoken);
   }
 }
 
@@ -61,12 +80,11 @@ void Label::set_font(std::string_view family, double points, QFont::Weight weigh
 
 void Label::set_role(Role role) {
   role_ = role;
-  const bool copyable = role == Role::result || role == Role::drawing;
-  setWordWrap(role == Role::note || role == Role::result);
+  setWordWrap(role == Role::heading || role == Role::note || role == Role::result);
   setFont(theme::font_of(role));
   setForegroundRole(role == Role::note ? QPalette::PlaceholderText : QPalette::WindowText);
   setAlignment(role == Role::drawing ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
-  setTextInteractionFlags(copyable ? Qt::TextSelectableByMouse : Qt::NoTextInteraction);
+  setTextInteractionFlags(tells_result() ? Qt::TextSelectableByMouse : Qt::NoTextInteraction);
 }
 
 QSize Label::minimumSizeHint() const {

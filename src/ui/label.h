@@ -14,10 +14,12 @@ class Label : public QLabel {
  public:
   enum class Role : std::uint8_t {
     text,     ///< as the user's font writes it, on one line
+    heading,  ///< what a window or a part of it is about; wrapped
     note,     ///< explanation: quieter, wrapped
     result,   ///< what the window is for: stronger, wrapped, to be selected and copied
     drawing,  ///< on a drawing, centred, to be selected and copied
   };
+  // A new text of the last two is announced to screen readers.
 
   Label(Parent parent, std::string_view name, std::string_view text = {}, Tooltip tip = {});
 
@@ -26,8 +28,8 @@ class Label : public QLabel {
 
   /// Keeps the room that this text would take, for a label that is empty or shorter at first.
   void reserve(std::string_view longest_text);
-  /// Names a box for screen readers by this label, whatever the label will say.
-  void set_prompt_of(QWidget& box);
+  /// Names a box, or describes a value, for screen readers by this label, whatever it will say.
+  void set_prompt_of(QWidget& control);
   void on_click(Handler handler);
 
   /// For a text whose font the design gives.
@@ -42,12 +44,23 @@ class Label : public QLabel {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
-  void name_prompted_box();
+  [[nodiscard]] bool tells_result() const;
+  void announce();
+  void name_prompted();
 
   Role role_ = Role::text;
-  QWidget* prompted_box_ = nullptr;
+  QWidget* prompted_ = nullptr;
   QString unprompted_name_;
   Handler click_handler_;
+};
+
+class Heading final : public Label {
+ public:
+  Heading(Parent parent, std::string_view name, std::string_view text = {}, Tooltip tip = {})
+      : Label{parent, name, text, tip} {
+    set_role(Role::heading);
+  }
+  using Label::operator=;
 };
 
 class Note final : public Label {

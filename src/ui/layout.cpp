@@ -107,9 +107,15 @@ Field field(Label& prompt, ComboBox& box) {
   return {&prompt, &box, nullptr};
 }
 
-Field field(Label& name, Label& value) { return {&name, &value, nullptr}; }
+Field field(Label& name, Label& value) {
+  name.set_prompt_of(value);
+  return {&name, &value, nullptr};
+}
 
-Field field(Label& name, Label& value, Label& unit) { return {&name, &value, &unit}; }
+Field field(Label& name, Label& value, Label& unit) {
+  name.set_prompt_of(value);
+  return {&name, &value, &unit};
+}
 
 Item form(std::initializer_list<Field> fields) {
   auto* grid = new QGridLayout;

@@ -12,6 +12,7 @@ namespace eterlab::ui::theme {
 namespace {
 
 constexpr double smallest_readable_points = 10;
+constexpr double heading_scale = 1.15;
 constexpr double note_scale = 0.92;
 constexpr double result_scale = 1.08;
 /// Opacity of quiet text out of 255, dark enough for tired eyes on a light window.
@@ -54,16 +55,42 @@ void apply(QApplication& application) {
     font.setPointSizeF(std::max(font.pointSizeF(), smallest_readable_points));
     QApplication::setFont(font);
   }
-  QPalette palette = application.palette();
+  set_palette(application.palette());
+}
+
+void set_palette(QPalette palette) {
   QColor quiet = palette.color(QPalette::WindowText);
   quiet.setAlpha(quiet_alpha);
   palette.setColor(QPalette::PlaceholderText, quiet);
   QApplication::setPalette(palette);
 }
 
+QPalette dark_palette() {
+  const QColor ground{0x2b, 0x2d, 0x30};
+  const QColor button{0x3c, 0x3f, 0x43};
+  const QColor box{0x1e, 0x1f, 0x22};
+  const QColor ink{0xdf, 0xe1, 0xe5};
+  const QColor accent{0x4a, 0x88, 0xc7};
+  const QColor faded{0x8a, 0x8d, 0x93};
+  QPalette palette{
+      ink, button, button.lighter(), button.darker(), button.lighter(120), ink, Qt::white,
+      box, ground};
+  palette.setColor(QPalette::Highlight, accent);
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  palette.setColor(QPalette::ToolTipBase, button);
+  palette.setColor(QPalette::ToolTipText, ink);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(QPalette::Disabled, role, faded);
+  }
+  return palette;
+}
+
 QFont font_of(Label::Role role) {
   QFont font = QApplication::font();
   switch (role) {
+    case Label::Role::heading:
+      font.setWeight(QFont::Medium);
+      return scaled(font, heading_scale);
     case Label::Role::note:
       return scaled(font, note_scale);
     case Label::Role::result:

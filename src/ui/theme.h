@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFont>
+#include <QPalette>
 
 #include "ui/label.h"
 
@@ -12,6 +13,12 @@ namespace eterlab::ui::theme {
 
 /// Sets style, font and colours; once, before the first window.
 void apply(QApplication& application);
+
+/// Gives the whole program these colours, and quiet text its own out of them.
+void set_palette(QPalette palette);
+
+/// Light letters on a dark ground, as a dark desktop gives them; for the gallery and for tests.
+QPalette dark_palette();
 
 QFont font_of(Label::Role role);
 

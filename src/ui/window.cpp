@@ -85,12 +85,13 @@ void Window::place(std::string_view window, TwipsPoint corner) {
 
 void Window::centre_across_screen(int top_twips) {
   const QRect whole = screen()->geometry();
-  move(whole.left() + (whole.width() - width()) / 2, pixels_from_twips(top_twips));
+  move(whole.left() + (whole.width() - frameGeometry().width()) / 2, pixels_from_twips(top_twips));
 }
 
 void Window::centre_on_screen() {
   const QRect whole = screen()->geometry();
-  move(whole.center() - rect().center());
+  move(whole.left() + (whole.width() - frameGeometry().width()) / 2,
+       whole.top() + (whole.height() - frameGeometry().height()) / 2);
 }
 
 void Window::blank_on_change(std::initializer_list<TextBox*> boxes,

@@ -98,7 +98,7 @@ TEST_F(Desktop, CentresAWindow) {
   const test::Driven window = open();
   window.click("cmdcentro");
   const QPoint off =
-      window.window().geometry().center() - window.window().screen()->geometry().center();
+      window.window().frameGeometry().center() - window.window().screen()->geometry().center();
   EXPECT_LE(std::abs(off.x()), 1);
   EXPECT_LE(std::abs(off.y()), 1);
 }
