@@ -17,6 +17,7 @@
 #include <utility>
 
 #include "shell/menu_catalogue.h"
+#include "ui/registry.h"
 #include "ui/text.h"
 
 namespace eterlab::test {
@@ -141,6 +142,16 @@ void WindowTest::settle() {
 }
 
 void WindowTest::close(std::string_view window) { driven(window).window().close(); }
+
+void WindowTest::expect_companion(std::string_view window, QPoint corner) {
+  if (!ui::registry::contains(window)) {
+    EXPECT_EQ(boxes(), std::vector{notice("FINESTRA NON ANCORA DISPONIBILE")});
+    return;
+  }
+  ASSERT_TRUE(is_open(window));
+  EXPECT_EQ(driven(window).window().pos(), corner);
+  EXPECT_FALSE(driven(window).window().isModal());
+}
 
 std::vector<Box> WindowTest::boxes() { return std::exchange(watcher_.boxes, {}); }
 
