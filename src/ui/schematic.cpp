@@ -1,7 +1,10 @@
 #include "ui/schematic.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
 #include <QTransform>
 #include <cmath>
 #include <utility>
@@ -292,6 +295,7 @@ void Schematic::place_labels() {
 void Schematic::on_click(Handler handler) {
   click_handler_ = std::move(handler);
   setCursor(Qt::PointingHandCursor);
+  setFocusPolicy(Qt::TabFocus);
 }
 
 bool Schematic::event(QEvent* event) {
@@ -300,6 +304,16 @@ bool Schematic::event(QEvent* event) {
     place_labels();
   }
   return QWidget::event(event);
+}
+
+void Schematic::keyPressEvent(QKeyEvent* event) {
+  const bool presses = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
+                       event->key() == Qt::Key_Enter;
+  if (click_handler_ && presses) {
+    Desktop::instance().run(click_handler_);
+  } else {
+    QWidget::keyPressEvent(event);
+  }
 }
 
 void Schematic::paintEvent(QPaintEvent* /*event*/) {
@@ -327,6 +341,11 @@ void Schematic::paintEvent(QPaintEvent* /*event*/) {
     QRectF around{0, 0, width() * 1.0, 4 * step()};
     around.moveCenter(point(mark.place) * step());
     painter.drawText(around, Qt::AlignCenter, mark.text);
+  }
+  if (hasFocus()) {
+    QStyleOptionFocusRect frame;
+    frame.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
   }
 }
 
