@@ -81,6 +81,7 @@ class frmpassabandakcostante final : public ui::Window {
   static constexpr double below_line = line + 1.2;  // its value
   static constexpr double name = 10;                // of a part across the line
   static constexpr double value = 12;               // under its name
+  static constexpr double between_texts = (name + value) / 2;
 
   static void draw_ends(ui::Schematic& schema, double left, double right) {
     schema.wire({{left, common_line}, {right, common_line}});
@@ -96,8 +97,8 @@ class frmpassabandakcostante final : public ui::Window {
   void draw_section() {
     draw_ends(schema1, 4, 50);
     schema1.inductor({4, line}, {20, line})
-        .mark({13, above_line}, "L1")
-        .label(lbll1, {13, below_line}, Side::below)
+        .mark({12, above_line}, "L1")
+        .label(lbll1, {12, below_line}, Side::below)
         .capacitor({20, line}, {32, line})
         .mark({26, above_line}, "C1")
         .label(lblc1, {26, below_line}, Side::below)
@@ -133,12 +134,11 @@ class frmpassabandakcostante final : public ui::Window {
         .mark({9.6, name}, "C2")
         .label(lblc2a, {11.6, value}, Side::left)
         .inductor({19, line}, {19, common_line})
-        .mark({21.6, name}, "L2")
+        .mark({42, name}, "L2")
         .label(lbll2a, {42, value})
-        .arrow({33, value}, {20.4, value})
-        .arrow({51, value}, {63.6, value})
+        .arrow({34, between_texts}, {20.4, between_texts})
+        .arrow({50, between_texts}, {63.6, between_texts})
         .inductor({65, line}, {65, common_line})
-        .mark({62.4, name}, "L2")
         .capacitor({71, line}, {71, common_line})
         .mark({74.4, name}, "C2")
         .label(lblc2b, {72.4, value}, Side::right)

@@ -224,7 +224,7 @@ Schematic& Schematic::ground(At place) {
 
 Schematic& Schematic::terminal(At place) {
   constexpr double radius = 0.35;
-  lines_.addEllipse(point(place), radius, radius);
+  terminals_.addEllipse(point(place), radius, radius);
   return *this;
 }
 
@@ -334,6 +334,8 @@ void Schematic::paintEvent(QPaintEvent* /*event*/) {
   stroke(lines_, line_width, Qt::SolidLine, Qt::SquareCap);
   stroke(rods_, rod_width, Qt::SolidLine, Qt::FlatCap);
   painter.fillPath(solids_, ink);
+  painter.fillPath(terminals_, palette().color(QPalette::Window));  // over the ends of wires
+  stroke(terminals_, line_width, Qt::SolidLine, Qt::FlatCap);
   painter.restore();
 
   painter.setPen(ink);

@@ -100,6 +100,7 @@ class Schematic final : public QWidget {
   QPainterPath dashed_lines_;
   QPainterPath rods_;
   QPainterPath solids_;
+  QPainterPath terminals_;
   std::vector<Mark> marks_;
   std::vector<Placed> labels_;
   Handler click_handler_;

@@ -1,7 +1,6 @@
 #include "ui/theme.h"
 
 #include <QApplication>
-#include <QFontInfo>
 #include <QFontMetrics>
 #include <QPalette>
 #include <QProxyStyle>
@@ -108,7 +107,7 @@ QFont font_of(Label::Role role) {
 int characters(int count) { return QFontMetrics{QApplication::font()}.averageCharWidth() * count; }
 
 double font_scale() {
-  return std::max(1.0, QFontInfo{QApplication::font()}.pointSizeF() / smallest_readable_points);
+  return std::max(1.0, QApplication::font().pointSizeF() / smallest_readable_points);
 }
 
 int spacing() { return QFontMetrics{QApplication::font()}.height(); }

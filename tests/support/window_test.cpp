@@ -9,14 +9,17 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPrinter>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <memory>
 #include <ostream>
 #include <stdexcept>
 #include <utility>
 
 #include "shell/menu_catalogue.h"
+#include "ui/printing.h"
 #include "ui/registry.h"
 #include "ui/text.h"
 
@@ -102,6 +105,7 @@ std::string Driven::focus() const {
 
 WindowTest::WindowTest() : desktop_{[this] { has_ended_ = true; }} {
   set_regional_settings(english());
+  ui::set_printer_source([] { return std::unique_ptr<QPrinter>{}; });
   desktop_.show("FRMETERLAB");
 }
 

@@ -69,7 +69,7 @@ class Driven {
   QWidget* window_;
 };
 
-/// Each test starts the program anew, with English settings.
+/// Each test starts the program anew, with English settings and without a printer.
 class WindowTest : public ::testing::Test {
  public:
   ~WindowTest() override;
