@@ -26,6 +26,7 @@ class frmdipoli final : public ui::Window {
  public:
   frmdipoli() : Window{"frmdipoli", "LUNGHEZZA DEL BRACCIO DEL DIPOLO"} {
     draw();
+    Label5.set_prompt_of(lbllunghezzavert);
     arrange(ui::column(ui::row(ui::stretch(), drawing, ui::stretch()),
                        ui::form(field(Label3, txtfrequenza)), Label4, lblbraccio, Label5,
                        lbllunghezzavert, Label6, ui::buttons(cmdesci)),
