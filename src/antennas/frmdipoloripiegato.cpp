@@ -90,11 +90,12 @@ class frmdipoloripiegato final : public ui::Window {
       lbllunghezza.hide();
       return;
     }
+    // Before the texts: a label that does not show is not announced to screen readers.
+    lbllung.show();
+    lbllunghezza.show();
     const std::string length_m = plain(folded_dipole_length_m(frequency_mhz));
     lbllung = length_m + " mt.";
     lbllunghezza = "LUNGHEZZA DEL DIPOLO mt : " + length_m;
-    lbllung.show();
-    lbllunghezza.show();
   }
 
   void cmdcalcola_click() {
