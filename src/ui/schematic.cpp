@@ -258,6 +258,19 @@ Schematic& Schematic::winding(At from, At to, double diameter, int turns) {
   return *this;
 }
 
+Schematic& Schematic::spiral(At centre, double inner_radius, double outer_radius, int turns) {
+  constexpr int chords_in_turn = 72;
+  constexpr double two_pi = 6.283185307179586;
+  const int chords = turns * chords_in_turn;
+  lines_.moveTo(centre.x + inner_radius, centre.y);
+  for (int chord = 1; chord <= chords; ++chord) {
+    const double radius = inner_radius + (outer_radius - inner_radius) * chord / chords;
+    const double angle = two_pi * chord / chords_in_turn;
+    lines_.lineTo(centre.x + radius * std::cos(angle), centre.y + radius * std::sin(angle));
+  }
+  return *this;
+}
+
 Schematic& Schematic::label(Label& label, At place, Side side) {
   Q_ASSERT(label.parentWidget() == this);
   label.set_role(Label::Role::drawing);

@@ -58,6 +58,8 @@ class Schematic final : public QWidget {
   Schematic& mark(At place, std::string_view text);  ///< a short fixed sign, such as "+"
   /// A coil seen from the side: turns around a form between two points of its axis.
   Schematic& winding(At from, At to, double diameter, int turns);
+  /// A flat coil seen from above: whole turns that begin and end to the right of the centre.
+  Schematic& spiral(At centre, double inner_radius, double outer_radius, int turns);
 
   /// Puts a label beside a place, where it stays whatever its text becomes. The label must have
   /// been made with this drawing as its parent.
