@@ -26,6 +26,7 @@ class frmdipoli final : public ui::Window {
  public:
   frmdipoli() : Window{"frmdipoli", "LUNGHEZZA DEL BRACCIO DEL DIPOLO"} {
     draw();
+    Label5.set_prompt_of(lbllunghezzavert);
     arrange(ui::column(ui::row(ui::stretch(), drawing, ui::stretch()),
                        ui::form(field(Label3, txtfrequenza)), Label4, lblbraccio, Label5,
                        lbllunghezzavert, Label6, ui::buttons(cmdesci)),
@@ -56,13 +57,14 @@ class frmdipoli final : public ui::Window {
       lblbraccio.hide();
       return;
     }
+    // Before the texts: a label that does not show is not announced to screen readers.
+    lbllunghezza.show();
+    lblbraccio.show();
+    lbllunghezzavert.show();
     const std::string arm_m = fixed(dipole_arm_m(frequency_mhz), 2);
     lbllunghezza = arm_m + " mt.";
     lblbraccio = "LUNGHEZZA DEL BRACCIO in mt.: " + arm_m;
     lbllunghezzavert = fixed(inverted_v_arm_m(frequency_mhz), 2);
-    lbllunghezza.show();
-    lblbraccio.show();
-    lbllunghezzavert.show();
   }
 };
 

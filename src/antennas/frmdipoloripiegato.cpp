@@ -15,30 +15,30 @@ class frmdipoloripiegato final : public ui::Window {
   ui::Label lbld1{drawing, "lbld1", "d1"};
   ui::Label lblimpedenza{drawing, "lblimpedenza"};
 
-  ui::Frame Frame1{this, "Frame1", "CALCOLO LUNGHEZZA DIPOLO"};
-  ui::Label Label1{Frame1, "Label1", "FREQUENZA DI CENTRO BANDA IN MHz  :"};
-  ui::TextBox txtfrequenza{Frame1, "txtfrequenza", ui::tooltip("frequenza di risonanza dipolo")};
-  ui::Note Label2{Frame1, "Label2", " FREQUENZE AMMISSIBILI : da 0,1 a 500 MHz"};
-  ui::Result lbllunghezza{Frame1, "lbllunghezza"};
+  ui::Heading Label1{this, "Label1", "CALCOLO LUNGHEZZA DIPOLO"};
+  ui::Label Label2{this, "Label2", "FREQUENZA DI CENTRO BANDA IN MHz  :"};
+  ui::TextBox txtfrequenza{this, "txtfrequenza", ui::tooltip("frequenza di risonanza dipolo")};
+  ui::Note Label3{this, "Label3", " FREQUENZE AMMISSIBILI : da 0,1 a 500 MHz"};
+  ui::Result lbllunghezza{this, "lbllunghezza"};
 
-  ui::Note Label3{
-      this, "Label3",
-      "OLTRE AD ESSERE CARATTERIZZATO DA UNA ELEVATA LARGHEZZA DI BANDA E' IN GRADO DI "
-      "ELEVARE DI DIVERSE VOLTE LA SUA IMPEDENZA CARATTERISTICA IN FUNZIONE DEL DIAMETRO "
-      "DEI DUE BRACCI E DELLA RECIPROCA DISTANZA.  SI PUO' CALCOLARE DI QUANTE VOLTE "
-      "VIENE ELEVATA L'IMPEDENZA E IL SUO VALORE"};
-  ui::Label Label4{this, "Label4", "DIAMETRO BRACCIO SUPERIORE in mm"};
+  ui::Note Label4{
+      this, "Label4",
+      "OLTRE AD ESSERE CARATTERIZZATO DA UNA ELEVATA LARGHEZZA DI BANDA E' IN GRADO DI ELEVARE DI "
+      "DIVERSE VOLTE LA SUA IMPEDENZA CARATTERISTICA IN FUNZIONE DEL DIAMETRO DEI DUE BRACCI E "
+      "DELLA RECIPROCA DISTANZA.  SI PUO' CALCOLARE DI QUANTE VOLTE VIENE ELEVATA L'IMPEDENZA E IL "
+      "SUO VALORE"};
+  ui::Label Label5{this, "Label5", "DIAMETRO BRACCIO SUPERIORE in mm"};
   ui::TextBox txtd2{this, "txtd2"};
-  ui::Label Label5{this, "Label5", "DIAMETRO BRACCIO INFERIORE in mm"};
+  ui::Label Label6{this, "Label6", "DIAMETRO BRACCIO INFERIORE in mm"};
   ui::TextBox txtd1{this, "txtd1"};
-  ui::Label Label6{this, "Label6", "DISTANZA TRA I BRACCI in mm  misurata dal centro dei tubi"};
+  ui::Label Label7{this, "Label7", "DISTANZA TRA I BRACCI in mm  misurata dal centro dei tubi"};
   ui::TextBox txts{this, "txts"};
-  ui::Note Label7{this, "Label7",
+  ui::Note Label8{this, "Label8",
                   "SE I TUBI HANNO IL MEDESIMO DIAMETRO L'IMPEDENZA E' SEMPRE 300 OHM "
                   "INDIPENDENTEMENTE DALLA DISTANZA"};
   ui::Result lblrapporto{this, "lblrapporto"};
   ui::Result lbloutputimpedenza{this, "lbloutputimpedenza"};
-  ui::Note Label8{this, "Label8", "separare i decimali con il punto del tastierino numerico"};
+  ui::Note Label9{this, "Label9", "separare i decimali con il punto del tastierino numerico"};
   ui::ComputeButton cmdcalcola{this, "cmdcalcola"};
   ui::ExitButton cmdesci{this, "cmdesci"};
 
@@ -46,10 +46,10 @@ class frmdipoloripiegato final : public ui::Window {
   frmdipoloripiegato()
       : Window{"frmdipoloripiegato", "DIPOLO RIPIEGATO MEZZO LAMBDA   -   FOLDED DIPOLE"} {
     draw();
-    Frame1.arrange(ui::column(ui::form(field(Label1, txtfrequenza)), Label2, lbllunghezza));
-    arrange(ui::column(ui::row(ui::stretch(), drawing, ui::stretch()), Frame1, Label3,
-                       ui::form(field(Label4, txtd2), field(Label5, txtd1), field(Label6, txts)),
-                       Label7, lblrapporto, lbloutputimpedenza, Label8,
+    arrange(ui::column(ui::row(ui::stretch(), drawing, ui::stretch()), Label1,
+                       ui::form(field(Label2, txtfrequenza)), Label3, lbllunghezza, Label4,
+                       ui::form(field(Label5, txtd2), field(Label6, txtd1), field(Label7, txts)),
+                       Label8, lblrapporto, lbloutputimpedenza, Label9,
                        ui::buttons(cmdcalcola, cmdesci)),
             76);
 
@@ -90,11 +90,12 @@ class frmdipoloripiegato final : public ui::Window {
       lbllunghezza.hide();
       return;
     }
+    // Before the texts: a label that does not show is not announced to screen readers.
+    lbllung.show();
+    lbllunghezza.show();
     const std::string length_m = plain(folded_dipole_length_m(frequency_mhz));
     lbllung = length_m + " mt.";
     lbllunghezza = "LUNGHEZZA DEL DIPOLO mt : " + length_m;
-    lbllung.show();
-    lbllunghezza.show();
   }
 
   void cmdcalcola_click() {
