@@ -47,14 +47,14 @@ QFont scaled(QFont font, double factor) {
 
 }  // namespace
 
-void apply(QApplication& application) {
+void apply() {
   QApplication::setStyle(new Style);
   QFont font = QApplication::font();
   if (font.pointSizeF() > 0) {
     font.setPointSizeF(std::max(font.pointSizeF(), smallest_readable_points));
     QApplication::setFont(font);
   }
-  set_palette(application.palette());
+  set_palette(QApplication::palette());
 }
 
 void set_palette(QPalette palette) {
@@ -105,6 +105,10 @@ QFont font_of(Label::Role role) {
 }
 
 int characters(int count) { return QFontMetrics{QApplication::font()}.averageCharWidth() * count; }
+
+double font_scale() {
+  return std::max(1.0, QApplication::font().pointSizeF() / smallest_readable_points);
+}
 
 int spacing() { return QFontMetrics{QApplication::font()}.height(); }
 

@@ -1,0 +1,42 @@
+#include "circuits/l_pad_window.h"
+
+#include "common/number_text.h"
+
+namespace eterlab::circuits {
+
+LPadWindow::LPadWindow(std::string_view name, std::string_view title) : Window{name, title} {
+  schematic.terminal({left - 0.35, top})
+      .terminal({left - 0.35, bottom})
+      .terminal({right + 0.35, top})
+      .terminal({right + 0.35, bottom})
+      .label(Label2, {left, 1.5})
+      .label(Label4, {right, 1.5});
+  for (ui::Label* end : {&Label2, &Label4}) {
+    end->set_role(ui::Label::Role::text);  // the values stand out from them
+  }
+  cmdcalcola.on_click([this] { cmdcalcola_click(); });
+}
+
+void LPadWindow::show_example() {
+  txtRH = "75";
+  txtRL = "50";
+  cmdcalcola.click();
+}
+
+void LPadWindow::cmdcalcola_click() {
+  const Real higher_ohm = txtRH.number();
+  const Real lower_ohm = txtRL.number();
+  if (higher_ohm * lower_ohm <= 0) {
+    refuse(txtRH);
+    return;
+  }
+  if (higher_ohm <= lower_ohm) {
+    refuse(txtRH, "L'impedenza IN deve essere maggiore dell'impedenza OUT", "messaggio di errore");
+    return;
+  }
+  const MinimumLossPad pad = minimum_loss_pad(higher_ohm, lower_ohm);
+  write_resistors(pad);
+  lblperdita = "L'ATTENUAZIONE E' " + plain(pad.loss_db) + " dB";
+}
+
+}  // namespace eterlab::circuits

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string_view>
+
+#include "circuits/resistive_pads.h"
+#include "ui/ui.h"
+
+namespace eterlab::circuits {
+
+/// The two windows of minimum-loss pads ask, check and answer alike; each brings its own schematic
+/// and layout.
+class LPadWindow : public ui::Window {
+ public:
+  void show_example() override;
+
+ protected:
+  // The terminals of both ends, on the drawing of either window.
+  static constexpr double left = 12.35;
+  static constexpr double right = 44.65;
+  static constexpr double top = 6;
+  static constexpr double bottom = 16;
+
+  LPadWindow(std::string_view name, std::string_view title);
+
+  virtual void write_resistors(const MinimumLossPad& pad) = 0;
+
+  ui::Label lblZI{this, "lblZI", "IMPEDENZA D' INGRESSO in OHM"};
+  ui::TextBox txtRH{this, "txtRH", ui::tooltip("inserire i dati")};
+  ui::Label lblZo{this, "lblZo", "IMPEDENZA D' USCITA in OHM"};
+  ui::TextBox txtRL{this, "txtRL", ui::tooltip("inserire i dati")};
+  ui::Schematic schematic{this, "schematic", 57, 19};
+  ui::Label Label2{schematic, "Label2", "lato impedenza maggiore"};
+  ui::Label Label4{schematic, "Label4", "lato impedenza minore"};
+  ui::Result lblperdita{this, "lblperdita"};
+  ui::Note Label3{this, "Label3",
+                  "L'IMPEDENZA D' INGRESSO DEVE ESSERE MAGGIORE DELL'IMPEDENZA D' USCITA"};
+  ui::ComputeButton cmdcalcola{this, "cmdcalcola"};
+  ui::ExitButton cmdesci{this, "cmdesci"};
+
+ private:
+  void cmdcalcola_click();
+};
+
+}  // namespace eterlab::circuits

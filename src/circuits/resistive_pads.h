@@ -1,0 +1,59 @@
+#pragma once
+
+#include "common/arithmetic.h"
+
+namespace eterlab::circuits {
+
+// Networks of resistors between two impedances, in ohm and dB. Sources: the image-parameter design
+// of resistive pads.
+
+/// The L of two resistors that matches two impedances with the least loss.
+struct MinimumLossPad {
+  Real series_ohm;  ///< on the side of the higher impedance
+  Real shunt_ohm;   ///< across the lower impedance
+  Single loss_db;   ///< rounded to two decimals
+};
+
+/// series = sqrt(H (H - L)), shunt = sqrt(L^2 H / (H - L)). Wants H > L > 0; two negative
+/// impedances are a fault.
+MinimumLossPad minimum_loss_pad(Real higher_ohm, Real lower_ohm);
+
+/// The resistors of an attenuator, each rounded half up to two decimals.
+struct TPad {
+  Real series_in_ohm;
+  Real series_out_ohm;
+  Real shunt_ohm;
+};
+
+struct PiPad {
+  Real shunt_in_ohm;
+  Real shunt_out_ohm;
+  Single series_ohm;
+};
+
+/// The least loss that t_pad and pi_pad may be asked for: 20 log(r + sqrt(r - 1)) dB, with r the
+/// ratio of the impedances, at least 1. (The bound in theory has the root of r as its first term
+/// and is lower.)
+Real least_loss_db(Real input_ohm, Real output_ohm);
+
+/// How the least loss is told: in whole dB, cut off after a two-hundredth has been added.
+Real told_in_whole_db(Real loss_db);
+
+/// Attenuators of this loss between an input impedance and an output impedance that is not above
+/// it. Valid from the least loss on; a loss that does not change the power divides by zero.
+TPad t_pad(Real input_ohm, Real output_ohm, Real loss_db);
+PiPad pi_pad(Real input_ohm, Real output_ohm, Real loss_db);
+
+/// The attenuator between equal impedances whose loss two resistors alone decide; the two in series
+/// equal the impedance.
+struct BridgedTPad {
+  Real series_ohm;
+  Real shunt_ohm;
+  Real bridge_ohm;
+};
+
+/// shunt = Z / (K - 1), bridge = Z (K - 1), with the voltage ratio K in single precision: a loss so
+/// small that K is 1 divides by zero.
+BridgedTPad bridged_t_pad(Real impedance_ohm, Real loss_db);
+
+}  // namespace eterlab::circuits
