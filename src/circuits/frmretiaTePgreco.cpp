@@ -52,9 +52,9 @@ class frmretiaTePgreco final : public ui::Window {
   frmretiaTePgreco() : Window{"frmretiaTePgreco", "ATTENUATORI  E  ADATTATORI RESISTIVI"} {
     draw_t();
     draw_pi();
-    arrange(ui::column(
-        ui::form(field(lblZI, txtZI), field(lblZo, txtZO), field(lblLD, txtLD)), Label3, Label4,
-        ui::row(t_schematic, pi_schematic), lblperdita, ui::buttons(cmdcalcola, cmdesci)));
+    arrange(ui::column(ui::form(field(lblZI, txtZI), field(lblZo, txtZO), field(lblLD, txtLD)),
+                       Label3, Label4, ui::row(t_schematic, pi_schematic), lblperdita,
+                       ui::buttons(cmdcalcola, cmdesci)));
     cmdcalcola.on_click([this] { cmdcalcola_click(); });
   }
 

@@ -8,9 +8,10 @@ namespace {
 
 // The bridged-T attenuator between equal impedances.
 class frmretiaTponte final : public ui::Window {
-  ui::Note Label1{this, "Label1",
-                  "La rete a T  a ponte ha il vantaggio di poter modificare l'attenuazione variando "
-                  "due sole resistenze"};
+  ui::Note Label1{
+      this, "Label1",
+      "La rete a T  a ponte ha il vantaggio di poter modificare l'attenuazione variando "
+      "due sole resistenze"};
   ui::Label lblZI{this, "lblZI", "IMPEDENZA D' INGRESSO E USCITA"};
   ui::TextBox txtR0{this, "txtR0", ui::tooltip("inserire i dati")};
   ui::Label lblattenuazione{this, "lblattenuazione", "ATTENUAZIONE IN dB"};

@@ -47,8 +47,7 @@ PiPad pi_pad(Real input_ohm, Real output_ohm, Real loss_db) {
 
 BridgedTPad bridged_t_pad(Real impedance_ohm, Real loss_db) {
   const Single voltage_ratio{pow(10, loss_db / 20)};
-  return {impedance_ohm, impedance_ohm / (voltage_ratio - 1),
-          impedance_ohm * (voltage_ratio - 1)};
+  return {impedance_ohm, impedance_ohm / (voltage_ratio - 1), impedance_ohm * (voltage_ratio - 1)};
 }
 
 }  // namespace eterlab::circuits

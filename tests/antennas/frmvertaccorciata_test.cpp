@@ -1,5 +1,4 @@
 #include "support/window_test.h"
-#include "ui/registry.h"
 
 namespace eterlab {
 namespace {
@@ -105,13 +104,11 @@ TEST_F(frmvertaccorciata, ALogarithmOfANegativeNumberEndsTheProgram) {
 TEST_F(frmvertaccorciata, CoilWindowStandsBeside) {
   window.click("cmdchiamabobine");
   EXPECT_EQ(window.window().pos(), QPoint(12, 12));
-  EXPECT_EQ(is_open("frmbobine"), ui::registry::contains("frmbobine"));
-  if (is_open("frmbobine")) {
-    EXPECT_EQ(driven("frmbobine").window().pos(), QPoint(273, 187));
-    EXPECT_FALSE(driven("frmbobine").window().isModal());
-    close("frmvertaccorciata");
-    EXPECT_TRUE(is_open("frmbobine"));
-  }
+  ASSERT_TRUE(is_open("frmbobine"));
+  EXPECT_EQ(driven("frmbobine").window().pos(), QPoint(273, 187));
+  EXPECT_FALSE(driven("frmbobine").window().isModal());
+  close("frmvertaccorciata");
+  EXPECT_TRUE(is_open("frmbobine"));
 }
 
 }  // namespace

@@ -18,8 +18,8 @@ class frmretiaTePgreco : public WindowTest {
   }
 
   [[nodiscard]] std::vector<std::string> results() const {
-    return {window.text("lblR1T"), window.text("lblR2T"), window.text("lblR3T"),
-            window.text("lblR1P"), window.text("lblR2P"), window.text("lblR3P"),
+    return {window.text("lblR1T"),    window.text("lblR2T"), window.text("lblR3T"),
+            window.text("lblR1P"),    window.text("lblR2P"), window.text("lblR3P"),
             window.text("lblperdita")};
   }
 };
