@@ -4,9 +4,10 @@
 
 namespace eterlab::circuits {
 
+/// Where a tuned circuit resonates.
 struct Resonance {
-  Real frequency_khz;
-  Real wavelength_m;
+  Real frequency_khz;    ///< of resonance
+  Real wavelength_m;     ///< in free space
   Single reactance_ohm;  ///< of the inductor and of the capacitor alike
 };
 

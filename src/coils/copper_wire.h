@@ -6,7 +6,7 @@ namespace eterlab::coils {
 
 /// What the diameter and the weight of a copper wire tell about it.
 struct CopperWire {
-  Real section_mm2;
+  Real section_mm2;        ///< of the copper
   Real length_m;           ///< rounded to two decimals
   Real largest_current_a;  ///< at 2.5 A/mm2
   Single resistance_ohm;   ///< of the rounded length, rounded to six decimals

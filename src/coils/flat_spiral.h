@@ -6,9 +6,9 @@ namespace eterlab::coils {
 
 /// A flat spiral air coil.
 struct FlatSpiral {
-  Real mean_radius_mm;
-  Real width_mm;       ///< of the winding, from its inner to its outer radius
-  Real inductance_uh;  ///< rounded to the regional default number of decimals
+  Real mean_radius_mm;  ///< half-way between the inner and the outer one
+  Real width_mm;        ///< of the winding, from its inner to its outer radius
+  Real inductance_uh;   ///< rounded to the regional default number of decimals
 };
 
 /// Source: Wheeler's formula for a spiral coil, L = a^2 N^2 / (8 a + 11 c) with lengths in inches,

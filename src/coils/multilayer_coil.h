@@ -7,8 +7,8 @@ namespace eterlab::coils {
 /// A round air coil wound in layers, as it follows from its wire and bobbin. Neither turns per
 /// layer nor layers are whole numbers.
 struct MultilayerCoil {
-  Real turns_per_layer;
-  Real layers;
+  Real turns_per_layer;  ///< between the flanges
+  Real layers;           ///< that all turns ask for
   Real thickness_cm;     ///< of the winding
   Real outer_radius_cm;  ///< of the winding
   Real wire_length_m;    ///< rounded to the regional default number of decimals

@@ -6,8 +6,8 @@ namespace eterlab::coils {
 
 /// A coil and a capacitor in parallel.
 struct Tank {
-  Real capacitance_pf;
-  Real inductance_uh;
+  Real capacitance_pf;  ///< of the capacitor
+  Real inductance_uh;   ///< of the coil
 };
 
 /// Of all the pairs that resonate at a short-wave frequency, the one that a rule of thumb prefers:

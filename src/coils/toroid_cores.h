@@ -10,14 +10,14 @@ namespace eterlab::coils {
 
 /// A size of toroidal core, with its dimensions as catalogues print them ("12,70").
 struct ToroidSize {
-  std::string_view name;
-  std::string_view outside_diameter_mm;
-  std::string_view height_mm;
+  std::string_view name;                 ///< "T-50"
+  std::string_view outside_diameter_mm;  ///< of the ring
+  std::string_view height_mm;            ///< along its axis
 };
 
 /// An iron-powder toroidal core of the T series.
 struct ToroidCore {
-  const ToroidSize* size;
+  const ToroidSize* size;   ///< in the catalogue of sizes; never null
   int mix;                  ///< number of the powder
   int inductance_index_uh;  ///< A_L: inductance of 100 turns
 };

@@ -6,8 +6,8 @@ namespace eterlab::coils {
 
 /// The two windings of a transformer, wound turn between turn on one core.
 struct MatchingWindings {
-  Real antenna_turns;
-  Real cable_turns;
+  Real antenna_turns;  ///< on the antenna's side
+  Real cable_turns;    ///< on the cable's side
 };
 
 /// A narrow-band transformer between an antenna and its cable, on a toroid of an inductance index.

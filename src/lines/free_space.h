@@ -6,8 +6,8 @@ namespace eterlab::lines {
 
 /// A radio path through free space.
 struct FreeSpacePath {
-  Real distance_km;
-  Real attenuation_db;
+  Real distance_km;     ///< that was computed with
+  Real attenuation_db;  ///< between isotropic antennas
 };
 
 /// Attenuation between isotropic antennas, A = 20 log10(4 pi d / lambda), with 1.099 for

@@ -4,16 +4,17 @@
 
 #include "common/arithmetic.h"
 
-// Circuits around the regulators of the 78xx and LM317 families. Source: the makers' application
-// notes. What lies outside the range of a regulator has no design.
-
 namespace eterlab::power {
 
-/// The divider that sets the output: R1 from the output to the reference pin, R2 from there to
-/// ground.
+/// @name Three-terminal regulators
+/// Circuits around the regulators of the 78xx and LM317 families. Source: the makers' application
+/// notes. What lies outside the range of a regulator has no design.
+/// @{
+
+/// The divider that sets the output, and the input that goes with it.
 struct RegulatorDesign {
-  Real r1_ohm;
-  Real r2_ohm;
+  Real r1_ohm;   ///< from the output to the reference pin
+  Real r2_ohm;   ///< from the reference pin to ground
   Real input_v;  ///< to feed the regulator with
 };
 
@@ -31,5 +32,7 @@ Real adjustable_regulator_highest_input_v(Real output_v);
 /// The resistor between output and reference pin that makes an adjustable regulator a source of
 /// constant current: R = 1.25 V / I, to a tenth of an ohm. Above 0, at most 1000 mA.
 std::optional<Real> constant_current_resistor_ohm(Real current_ma);
+
+/// @}
 
 }  // namespace eterlab::power

@@ -6,6 +6,8 @@
 #include <QProxyStyle>
 #include <algorithm>
 
+#include "ui/icons.h"
+
 namespace eterlab::ui::theme {
 
 namespace {
@@ -55,6 +57,7 @@ void apply() {
     QApplication::setFont(font);
   }
   set_palette(QApplication::palette());
+  QApplication::setWindowIcon(program_icon());
 }
 
 void set_palette(QPalette palette) {

@@ -9,7 +9,8 @@
 
 namespace eterlab::ui::theme {
 
-/// Sets style, font and colours; once, when the application is made and before its first window.
+/// Sets style, font, colours and icon; once, when the application is made and before its first
+/// window.
 void apply();
 
 /// Gives the whole program these colours, and quiet text its own out of them.
