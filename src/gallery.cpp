@@ -118,7 +118,7 @@ int main(int argc, char* argv[]) {
   if (parser.positionalArguments().size() != 1) {
     parser.showHelp(EXIT_FAILURE);
   }
-  ui::theme::apply(application);
+  ui::theme::apply();
   if (parser.isSet(dark)) {
     ui::theme::set_palette(ui::theme::dark_palette());
   }

@@ -1,16 +1,22 @@
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
+#include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
-#include <QFontMetrics>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <algorithm>
+#include <map>
 #include <set>
 
 #include "shell/menu_catalogue.h"
+#include "support/layout_faults.h"
 #include "support/window_test.h"
+#include "ui/label.h"
 #include "ui/registry.h"
 #include "ui/text.h"
 #include "ui/theme.h"
@@ -20,61 +26,12 @@
 namespace eterlab {
 namespace {
 
+using test::layout_faults;
+using test::visible_controls;
 using ui::from_qt;
+using Faults = std::vector<std::string>;
 
 std::string name_of(const QWidget& widget) { return from_qt(widget.objectName()); }
-
-/// The controls of a window that the user sees: those that the design names.
-QList<QWidget*> visible_controls(const QWidget& window) {
-  QList<QWidget*> controls;
-  for (QWidget* widget : window.findChildren<QWidget*>()) {
-    const bool is_internal = widget->objectName().isEmpty() ||
-                             widget->objectName().startsWith("qt_") ||
-                             qobject_cast<QMenu*>(widget) != nullptr;
-    if (!is_internal && widget->isVisible()) {
-      controls.append(widget);
-    }
-  }
-  return controls;
-}
-
-/// Why a control does not show its whole text; empty when it does.
-std::string clipping(const QWidget& control) {
-  const auto* label = qobject_cast<const QLabel*>(&control);
-  const QSize needed = label != nullptr && label->wordWrap()
-                           ? QSize{0, label->heightForWidth(label->width())}
-                           : control.minimumSizeHint();
-  if (control.width() >= needed.width() && control.height() >= needed.height()) {
-    return {};
-  }
-  return name_of(control) + " has " + std::to_string(control.width()) + "x" +
-         std::to_string(control.height()) + " and needs " + std::to_string(needed.width()) + "x" +
-         std::to_string(needed.height());
-}
-
-/// The room that a control's contents take of it: an empty label takes none.
-QRect ink(const QWidget& control) {
-  const auto* label = qobject_cast<const QLabel*>(&control);
-  return label != nullptr && label->text().isEmpty() ? QRect{} : control.geometry();
-}
-
-void expect_sound_layout(const QWidget& window) {
-  SCOPED_TRACE(name_of(window));
-  EXPECT_LE(window.width(), 1280);
-  EXPECT_LE(window.height(), 1024);
-  const QList<QWidget*> controls = visible_controls(window);
-  for (const QWidget* control : controls) {
-    EXPECT_EQ(clipping(*control), "");
-    EXPECT_TRUE(control->parentWidget()->rect().contains(control->geometry()))
-        << name_of(*control) << " leaves its parent";
-    for (const QWidget* other : controls) {
-      if (other != control && other->parentWidget() == control->parentWidget()) {
-        EXPECT_FALSE(ink(*control).intersects(ink(*other)))
-            << name_of(*control) << " overlaps " << name_of(*other);
-      }
-    }
-  }
-}
 
 class AllWindows : public test::WindowTest {
  protected:
@@ -125,10 +82,11 @@ TEST_F(AllWindows, AreLaidOutSoundlyInEveryFontSize) {
       if (is_open(name)) {
         close(name);
       }
-      expect_sound_layout(open(name));
+      SCOPED_TRACE(name);
+      EXPECT_EQ(layout_faults(open(name)), Faults{});
       desktop().find(name)->show_example();
       settle();
-      expect_sound_layout(driven(name).window());
+      EXPECT_EQ(layout_faults(driven(name).window()), Faults{});
     }
   }
   QApplication::setFont(usual);
@@ -140,7 +98,7 @@ TEST_F(AllWindows, BeginInTheirFirstInputAndGoOnInReadingOrder) {
     QWidget& window = open(name);
     std::vector<QWidget*> order;
     for (QWidget* at = window.nextInFocusChain(); at != &window; at = at->nextInFocusChain()) {
-      if (at->isVisible() && at->focusPolicy() & Qt::TabFocus &&
+      if (at->isVisible() && (at->focusPolicy() & Qt::TabFocus) != 0 &&
           !at->objectName().startsWith("qt_")) {
         order.push_back(at);
       }
@@ -171,6 +129,61 @@ TEST_F(AllWindows, NameEveryInputForScreenReaders) {
       }
     }
   }
+}
+
+// The texts announced to screen readers since the last call.
+std::vector<std::string> announced;
+
+void note_announcement(QAccessibleEvent* event) {
+  if (event->type() == QAccessible::Alert) {
+    announced.push_back(from_qt(event->accessibleInterface()->text(QAccessible::Name)));
+  }
+}
+
+// As if a screen reader ran.
+QPlatformAccessibility& accessibility() {
+  return *QGuiApplicationPrivate::platformIntegration()->accessibility();
+}
+
+bool tells_result(const QWidget& control) {
+  const auto* label = dynamic_cast<const ui::Label*>(&control);
+  return label != nullptr && !label->text().isEmpty() &&
+         (label->role() == ui::Label::Role::result || label->role() == ui::Label::Role::drawing);
+}
+
+TEST_F(AllWindows, TellResultsToScreenReaders) {
+  accessibility().setActive(true);
+  const auto previous = QAccessible::installUpdateHandler(note_announcement);
+  for (const std::string& name : ui::registry::names()) {
+    SCOPED_TRACE(name);
+    const QWidget& window = open(name);
+    std::map<const QWidget*, QString> before;
+    for (const QWidget* control : visible_controls(window)) {
+      if (tells_result(*control)) {
+        before[control] = static_cast<const QLabel*>(control)->text();
+      }
+    }
+    announced.clear();
+    desktop().find(name)->show_example();
+    settle();
+    for (QWidget* control : visible_controls(window)) {
+      if (!tells_result(*control)) {
+        continue;
+      }
+      const auto& label = static_cast<const QLabel&>(*control);
+      const QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(control);
+      EXPECT_EQ(interface->role(), QAccessible::StaticText) << name_of(label);
+      EXPECT_EQ(interface->text(QAccessible::Name), label.text()) << name_of(label);
+      EXPECT_NE(label.textInteractionFlags() & Qt::TextSelectableByMouse, 0) << name_of(label);
+      EXPECT_EQ(label.focusPolicy() & Qt::TabFocus, 0) << name_of(label);
+      if (before[control] != label.text()) {
+        EXPECT_NE(std::ranges::find(announced, from_qt(label.text())), announced.end())
+            << name_of(label) << " changed silently to " << from_qt(label.text());
+      }
+    }
+  }
+  QAccessible::installUpdateHandler(previous);
+  accessibility().setActive(false);
 }
 
 TEST_F(AllWindows, MenuEntriesOpenThemInTheirMode) {

@@ -60,9 +60,17 @@ void Label::name_prompted() {
 bool Label::tells_result() const { return role_ == Role::result || role_ == Role::drawing; }
 
 void Label::announce() {
+  is_to_be_announced_ = !isVisible() && !text().isEmpty();
   if (isVisible() && !text().isEmpty()) {
     QAccessibleEvent spoken{this, QAccessible::Alert};
     QAccessible::updateAccessibility(&spoken);
+  }
+}
+
+void Label::showEvent(QShowEvent* event) {
+  QLabel::showEvent(event);
+  if (is_to_be_announced_) {
+    announce();
   }
 }
 

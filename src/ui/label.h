@@ -42,6 +42,7 @@ class Label : public QLabel {
 
  protected:
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   [[nodiscard]] bool tells_result() const;
@@ -51,6 +52,8 @@ class Label : public QLabel {
   Role role_ = Role::text;
   QWidget* prompted_ = nullptr;
   QString unprompted_name_;
+  /// Written while it was hidden.
+  bool is_to_be_announced_ = false;
   Handler click_handler_;
 };
 

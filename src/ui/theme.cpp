@@ -47,14 +47,14 @@ QFont scaled(QFont font, double factor) {
 
 }  // namespace
 
-void apply(QApplication& application) {
+void apply() {
   QApplication::setStyle(new Style);
   QFont font = QApplication::font();
   if (font.pointSizeF() > 0) {
     font.setPointSizeF(std::max(font.pointSizeF(), smallest_readable_points));
     QApplication::setFont(font);
   }
-  set_palette(application.palette());
+  set_palette(QApplication::palette());
 }
 
 void set_palette(QPalette palette) {

@@ -5,14 +5,12 @@
 
 #include "ui/label.h"
 
-class QApplication;
-
 // The one place that says how the program looks: style, type scale, distances.
 
 namespace eterlab::ui::theme {
 
-/// Sets style, font and colours; once, before the first window.
-void apply(QApplication& application);
+/// Sets style, font and colours; once, when the application is made and before its first window.
+void apply();
 
 /// Gives the whole program these colours, and quiet text its own out of them.
 void set_palette(QPalette palette);

@@ -25,7 +25,7 @@ int main(int argc, char* argv[]) {
   qInstallMessageHandler(report);
   QApplication application{argc, argv};
   QApplication::setQuitOnLastWindowClosed(false);
-  eterlab::ui::theme::apply(application);
+  eterlab::ui::theme::apply();
   ::testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();
 }

@@ -54,14 +54,14 @@ class Driven {
   void type(std::string_view box, std::string_view text) const;
   void clear(std::string_view box) const { type(box, ""); }
   void press(Qt::Key key) const;
-  void click(std::string_view control) const;
+  void click(std::string_view name) const;
 
   /// Text of a label, box, option or button; title of a frame.
-  [[nodiscard]] std::string text(std::string_view control) const;
-  [[nodiscard]] std::string tooltip(std::string_view control) const;
-  [[nodiscard]] bool shows(std::string_view control) const;
+  [[nodiscard]] std::string text(std::string_view name) const;
+  [[nodiscard]] std::string tooltip(std::string_view name) const;
+  [[nodiscard]] bool shows(std::string_view name) const;
   /// Text colour as "#rrggbb".
-  [[nodiscard]] std::string colour(std::string_view control) const;
+  [[nodiscard]] std::string colour(std::string_view name) const;
   [[nodiscard]] std::string focus() const;
 
  private:

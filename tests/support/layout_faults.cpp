@@ -1,0 +1,103 @@
+#include "support/layout_faults.h"
+
+#include <QImage>
+#include <QLabel>
+#include <QMenu>
+
+#include "ui/schematic.h"
+#include "ui/text.h"
+
+namespace eterlab::test {
+
+namespace {
+
+constexpr QSize screen{1280, 1024};
+
+std::string name_of(const QWidget& widget) { return ui::from_qt(widget.objectName()); }
+
+std::string text_of(QSize size) {
+  return std::to_string(size.width()) + "x" + std::to_string(size.height());
+}
+
+QSize room_for_text(const QWidget& control) {
+  const auto* label = qobject_cast<const QLabel*>(&control);
+  return label != nullptr && label->wordWrap() ? QSize{0, label->heightForWidth(label->width())}
+                                               : control.minimumSizeHint();
+}
+
+/// The room that a control's contents take of it: an empty label takes none.
+QRect ink(const QWidget& control) {
+  const auto* label = qobject_cast<const QLabel*>(&control);
+  return label != nullptr && label->text().isEmpty() ? QRect{} : control.geometry();
+}
+
+/// Whether a drawing has lines where one of its labels stands.
+bool crosses_lines(const QImage& drawing, const QRect& letters) {
+  const QRgb ground = drawing.pixel(0, 0);
+  const QRect seen = letters.intersected(drawing.rect());
+  for (int y = seen.top(); y <= seen.bottom(); ++y) {
+    for (int x = seen.left(); x <= seen.right(); ++x) {
+      if (drawing.pixel(x, y) != ground) {
+        return true;
+      }
+    }
+  }
+  return false;
+}
+
+void add_drawing_faults(ui::Schematic& schematic, std::vector<std::string>& faults) {
+  QImage drawing{schematic.size(), QImage::Format_ARGB32};
+  drawing.fill(Qt::transparent);
+  schematic.render(&drawing, {}, {}, QWidget::RenderFlags{});  // without its labels
+  for (const QLabel* label : schematic.findChildren<QLabel*>()) {
+    // The letters themselves stand well inside.
+    if (label->isVisible() && crosses_lines(drawing, ink(*label).adjusted(2, 3, -2, -3))) {
+      faults.push_back(name_of(*label) + " stands on a line of " + name_of(schematic));
+    }
+  }
+}
+
+}  // namespace
+
+QList<QWidget*> visible_controls(const QWidget& window) {
+  QList<QWidget*> controls;
+  for (QWidget* widget : window.findChildren<QWidget*>()) {
+    const bool is_internal = widget->objectName().isEmpty() ||
+                             widget->objectName().startsWith("qt_") ||
+                             qobject_cast<QMenu*>(widget) != nullptr;
+    if (!is_internal && widget->isVisible()) {
+      controls.append(widget);
+    }
+  }
+  return controls;
+}
+
+std::vector<std::string> layout_faults(const QWidget& window) {
+  std::vector<std::string> faults;
+  if (window.width() > screen.width() || window.height() > screen.height()) {
+    faults.push_back("the window is " + text_of(window.size()));
+  }
+  const QList<QWidget*> controls = visible_controls(window);
+  for (QWidget* control : controls) {
+    const QSize needed = room_for_text(*control);
+    if (control->width() < needed.width() || control->height() < needed.height()) {
+      faults.push_back(name_of(*control) + " has " + text_of(control->size()) + " and needs " +
+                       text_of(needed));
+    }
+    if (!control->parentWidget()->rect().contains(control->geometry())) {
+      faults.push_back(name_of(*control) + " leaves its parent");
+    }
+    for (const QWidget* other : controls) {
+      if (other > control && other->parentWidget() == control->parentWidget() &&
+          ink(*control).intersects(ink(*other))) {
+        faults.push_back(name_of(*control) + " overlaps " + name_of(*other));
+      }
+    }
+    if (auto* schematic = dynamic_cast<ui::Schematic*>(control); schematic != nullptr) {
+      add_drawing_faults(*schematic, faults);
+    }
+  }
+  return faults;
+}
+
+}  // namespace eterlab::test
