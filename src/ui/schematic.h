@@ -65,13 +65,14 @@ class Schematic final : public QWidget {
   /// been made with this drawing as its parent.
   Schematic& label(Label& label, At place, Side side = Side::centre);
 
-  /// The whole drawing becomes something to click.
+  /// The whole drawing becomes something to click, or to press Enter or the space bar on.
   void on_click(Handler handler);
 
   [[nodiscard]] QSize sizeHint() const override;
 
  protected:
   bool event(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
 
@@ -101,6 +102,7 @@ class Schematic final : public QWidget {
   QPainterPath dashed_lines_;
   QPainterPath rods_;
   QPainterPath solids_;
+  QPainterPath terminals_;
   std::vector<Mark> marks_;
   std::vector<Placed> labels_;
   Handler click_handler_;

@@ -106,6 +106,10 @@ QFont font_of(Label::Role role) {
 
 int characters(int count) { return QFontMetrics{QApplication::font()}.averageCharWidth() * count; }
 
+double font_scale() {
+  return std::max(1.0, QApplication::font().pointSizeF() / smallest_readable_points);
+}
+
 int spacing() { return QFontMetrics{QApplication::font()}.height(); }
 
 int margin() { return spacing() * 3 / 4; }

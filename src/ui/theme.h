@@ -23,6 +23,10 @@ QFont font_of(Label::Role role);
 /// Width of a text of so many average characters in the user's font.
 int characters(int count);
 
+/// How much larger the user's font is than the usual one, at least 1; what the design places at
+/// given coordinates moves apart with it.
+double font_scale();
+
 /// Distance between unrelated things; related ones stand at half of it.
 int spacing();
 

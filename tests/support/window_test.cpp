@@ -9,14 +9,18 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPrinter>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <memory>
 #include <ostream>
 #include <stdexcept>
 #include <utility>
 
 #include "shell/menu_catalogue.h"
+#include "ui/printing.h"
+#include "ui/registry.h"
 #include "ui/text.h"
 
 namespace eterlab::test {
@@ -101,6 +105,7 @@ std::string Driven::focus() const {
 
 WindowTest::WindowTest() : desktop_{[this] { has_ended_ = true; }} {
   set_regional_settings(english());
+  ui::set_printer_source([] { return std::unique_ptr<QPrinter>{}; });
   desktop_.show("FRMETERLAB");
 }
 
@@ -141,6 +146,16 @@ void WindowTest::settle() {
 }
 
 void WindowTest::close(std::string_view window) { driven(window).window().close(); }
+
+void WindowTest::expect_companion(std::string_view window, QPoint corner) {
+  if (!ui::registry::contains(window)) {
+    EXPECT_EQ(boxes(), std::vector{notice("FINESTRA NON ANCORA DISPONIBILE")});
+    return;
+  }
+  ASSERT_TRUE(is_open(window));
+  EXPECT_EQ(driven(window).window().pos(), corner);
+  EXPECT_FALSE(driven(window).window().isModal());
+}
 
 std::vector<Box> WindowTest::boxes() { return std::exchange(watcher_.boxes, {}); }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QObject>
+#include <QPoint>
 #include <QString>
 #include <QWidget>
 #include <iosfwd>
@@ -68,7 +69,7 @@ class Driven {
   QWidget* window_;
 };
 
-/// Each test starts the program anew, with English settings.
+/// Each test starts the program anew, with English settings and without a printer.
 class WindowTest : public ::testing::Test {
  public:
   ~WindowTest() override;
@@ -82,6 +83,9 @@ class WindowTest : public ::testing::Test {
   Driven driven(std::string_view window);
   [[nodiscard]] bool is_open(std::string_view window) const;
   void close(std::string_view window);
+  /// That a window has been shown beside another, at this place; or the notice that takes its place
+  /// as long as there is none of that name.
+  void expect_companion(std::string_view window, QPoint corner);
   /// Lets the event loop do what it was asked for. A text that grows inside a frame moves first the
   /// frame's layout, then the window's.
   static void settle();
