@@ -1,0 +1,41 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "common/arithmetic.h"
+
+// The World Wide Locator: a field of 20 by 10 degrees (two letters), a square of 2 by 1 degrees in
+// it (two digits), a subsquare of 5 by 2.5 minutes in that (two letters), counted from 180 degrees
+// west and 90 degrees south. Source: the Maidenhead definition of 1980.
+
+namespace eterlab::units {
+
+/// East and north are positive. The single precision of the latitude is part of the results: it
+/// decides in which cell a point on a border lies.
+struct Position {
+  Real longitude_deg;
+  Single latitude_deg;
+};
+
+/// The centre of a subsquare, its letters in either case. Any six characters are converted by
+/// their Windows-1252 codes, also to places off the globe; any other number of them is none.
+std::optional<Position> position_of(std::string_view locator);
+
+/// The subsquare that a position lies in, six characters in UTF-8. Places off the globe go on with
+/// the characters beside the letters and digits, and with "?" where there are none.
+std::string locator_of(const Position& position);
+
+/// degrees + minutes / 60 + seconds / 3600; minutes and seconds are always added.
+Real degrees_of(Real degrees, Real minutes, Real seconds);
+
+/// An angle as whole degrees, not above it, whole minutes and whole hundredths of a minute.
+struct DegreesAndMinutes {
+  Real degrees;
+  Real minutes;
+  Real hundredths_of_minute;
+};
+DegreesAndMinutes degrees_and_minutes(Real angle_deg);
+
+}  // namespace eterlab::units
