@@ -37,6 +37,7 @@ void Window::arrange(const Item& contents, int width_in_characters) {
   layout()->setSizeConstraint(QLayout::SetNoConstraint);
   set_tab_order(*this);
   least_ = {theme::characters(width_in_characters), 0};
+  resize(least_.width(), height());
   fit();
 }
 
