@@ -81,6 +81,14 @@ Item row(std::initializer_list<Item> items) {
   return Item{row};
 }
 
+Item alternatives(std::initializer_list<Item> items) {
+  auto* place = new QGridLayout;
+  for (const Item& item : items) {
+    place->addLayout(new_column({item}), 0, 0);
+  }
+  return Item{place};
+}
+
 Item buttons(std::initializer_list<Item> items) {
   auto* row = new QHBoxLayout;
   row->addStretch(1);

@@ -38,6 +38,8 @@ class Item {
 
 Item column(std::initializer_list<Item> items);
 Item row(std::initializer_list<Item> items);
+/// In one place, where each shows while the others are hidden.
+Item alternatives(std::initializer_list<Item> items);
 /// The buttons of a window: at its bottom, to the right.
 Item buttons(std::initializer_list<Item> items);
 
@@ -48,6 +50,10 @@ Item column(Items&&... items) {
 template <class... Items>
 Item row(Items&&... items) {
   return row({Item{items}...});
+}
+template <class... Items>
+Item alternatives(Items&&... items) {
+  return alternatives({Item{items}...});
 }
 template <class... Items>
 Item buttons(Items&&... items) {

@@ -1,7 +1,10 @@
 #include "ui/schematic.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
 #include <QTransform>
 #include <cmath>
 #include <utility>
@@ -221,7 +224,7 @@ Schematic& Schematic::ground(At place) {
 
 Schematic& Schematic::terminal(At place) {
   constexpr double radius = 0.35;
-  lines_.addEllipse(point(place), radius, radius);
+  terminals_.addEllipse(point(place), radius, radius);
   return *this;
 }
 
@@ -252,6 +255,19 @@ Schematic& Schematic::winding(At from, At to, double diameter, int turns) {
   }
   lines_.addPath(placed.map(front));
   thin_lines_.addPath(placed.map(back));
+  return *this;
+}
+
+Schematic& Schematic::spiral(At centre, double inner_radius, double outer_radius, int turns) {
+  constexpr int chords_in_turn = 72;
+  constexpr double two_pi = 6.283185307179586;
+  const int chords = turns * chords_in_turn;
+  lines_.moveTo(centre.x + inner_radius, centre.y);
+  for (int chord = 1; chord <= chords; ++chord) {
+    const double radius = inner_radius + (outer_radius - inner_radius) * chord / chords;
+    const double angle = two_pi * chord / chords_in_turn;
+    lines_.lineTo(centre.x + radius * std::cos(angle), centre.y + radius * std::sin(angle));
+  }
   return *this;
 }
 
@@ -292,6 +308,7 @@ void Schematic::place_labels() {
 void Schematic::on_click(Handler handler) {
   click_handler_ = std::move(handler);
   setCursor(Qt::PointingHandCursor);
+  setFocusPolicy(Qt::TabFocus);
 }
 
 bool Schematic::event(QEvent* event) {
@@ -300,6 +317,16 @@ bool Schematic::event(QEvent* event) {
     place_labels();
   }
   return QWidget::event(event);
+}
+
+void Schematic::keyPressEvent(QKeyEvent* event) {
+  const bool presses = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return ||
+                       event->key() == Qt::Key_Enter;
+  if (click_handler_ && presses) {
+    Desktop::instance().run(click_handler_);
+  } else {
+    QWidget::keyPressEvent(event);
+  }
 }
 
 void Schematic::paintEvent(QPaintEvent* /*event*/) {
@@ -320,6 +347,8 @@ void Schematic::paintEvent(QPaintEvent* /*event*/) {
   stroke(lines_, line_width, Qt::SolidLine, Qt::SquareCap);
   stroke(rods_, rod_width, Qt::SolidLine, Qt::FlatCap);
   painter.fillPath(solids_, ink);
+  painter.fillPath(terminals_, palette().color(QPalette::Window));  // over the ends of wires
+  stroke(terminals_, line_width, Qt::SolidLine, Qt::FlatCap);
   painter.restore();
 
   painter.setPen(ink);
@@ -327,6 +356,11 @@ void Schematic::paintEvent(QPaintEvent* /*event*/) {
     QRectF around{0, 0, width() * 1.0, 4 * step()};
     around.moveCenter(point(mark.place) * step());
     painter.drawText(around, Qt::AlignCenter, mark.text);
+  }
+  if (hasFocus()) {
+    QStyleOptionFocusRect frame;
+    frame.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
   }
 }
 

@@ -58,18 +58,21 @@ class Schematic final : public QWidget {
   Schematic& mark(At place, std::string_view text);  ///< a short fixed sign, such as "+"
   /// A coil seen from the side: turns around a form between two points of its axis.
   Schematic& winding(At from, At to, double diameter, int turns);
+  /// A flat coil seen from above: whole turns that begin and end to the right of the centre.
+  Schematic& spiral(At centre, double inner_radius, double outer_radius, int turns);
 
   /// Puts a label beside a place, where it stays whatever its text becomes. The label must have
   /// been made with this drawing as its parent.
   Schematic& label(Label& label, At place, Side side = Side::centre);
 
-  /// The whole drawing becomes something to click.
+  /// The whole drawing becomes something to click, or to press Enter or the space bar on.
   void on_click(Handler handler);
 
   [[nodiscard]] QSize sizeHint() const override;
 
  protected:
   bool event(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
 
@@ -99,6 +102,7 @@ class Schematic final : public QWidget {
   QPainterPath dashed_lines_;
   QPainterPath rods_;
   QPainterPath solids_;
+  QPainterPath terminals_;
   std::vector<Mark> marks_;
   std::vector<Placed> labels_;
   Handler click_handler_;
