@@ -15,8 +15,8 @@ namespace eterlab::units {
 /// East and north are positive. The single precision of the latitude is part of the results: it
 /// decides in which cell a point on a border lies.
 struct Position {
-  Real longitude_deg;
-  Single latitude_deg;
+  Real longitude_deg;   ///< -180 to 180 on the globe
+  Single latitude_deg;  ///< -90 to 90 on the globe
 };
 
 /// The centre of a subsquare, its letters in either case. Any six characters are converted by
@@ -32,10 +32,11 @@ Real degrees_of(Real degrees, Real minutes, Real seconds);
 
 /// An angle as whole degrees, not above it, whole minutes and whole hundredths of a minute.
 struct DegreesAndMinutes {
-  Real degrees;
-  Real minutes;
-  Real hundredths_of_minute;
+  Real degrees;               ///< negative for any angle below 0
+  Real minutes;               ///< 0 to 59
+  Real hundredths_of_minute;  ///< 0 to 99
 };
+/// Takes an angle apart: -0.5 degrees are -1 degrees and 30 minutes.
 DegreesAndMinutes degrees_and_minutes(Real angle_deg);
 
 }  // namespace eterlab::units
