@@ -27,16 +27,12 @@ constexpr double rod_width = 0.5;
 
 QPointF point(At at) { return {at.x, at.y}; }
 
-void add_lines(QPainterPath& path, std::initializer_list<At> corners) {
-  bool first = true;
+QPainterPath polyline(std::initializer_list<At> corners) {
+  QPainterPath path{point(*corners.begin())};
   for (const At& corner : corners) {
-    if (first) {
-      path.moveTo(point(corner));
-    } else {
-      path.lineTo(point(corner));
-    }
-    first = false;
+    path.lineTo(point(corner));
   }
+  return path;
 }
 
 void add_line(QPainterPath& path, QPointF from, QPointF to) {
@@ -80,17 +76,17 @@ QSize Schematic::sizeHint() const {
 }
 
 Schematic& Schematic::wire(std::initializer_list<At> corners) {
-  add_lines(lines_, corners);
+  lines_.push_back(polyline(corners));
   return *this;
 }
 
 Schematic& Schematic::dashed(std::initializer_list<At> corners) {
-  add_lines(dashed_lines_, corners);
+  dashed_lines_.push_back(polyline(corners));
   return *this;
 }
 
 Schematic& Schematic::rod(std::initializer_list<At> corners) {
-  add_lines(rods_, corners);
+  rods_.push_back(polyline(corners));
   return *this;
 }
 
@@ -101,7 +97,7 @@ Schematic& Schematic::dimension(At from, At to) {
 }
 
 Schematic& Schematic::arrow(At from, At to) {
-  add_lines(thin_lines_, {from, to});
+  thin_lines_.push_back(polyline({from, to}));
   arrow_head(from, to);
   return *this;
 }
@@ -121,22 +117,22 @@ void Schematic::arrow_head(At from, At to) {
 }
 
 Schematic& Schematic::circle(At centre, double radius) {
-  lines_.addEllipse(point(centre), radius, radius);
+  lines_.emplace_back().addEllipse(point(centre), radius, radius);
   return *this;
 }
 
 Schematic& Schematic::box(At top_left, At bottom_right) {
-  lines_.addRect(QRectF{point(top_left), point(bottom_right)});
+  lines_.emplace_back().addRect(QRectF{point(top_left), point(bottom_right)});
   return *this;
 }
 
 void Schematic::part(At from, At to, double half, const QPainterPath& outline,
                      const QPainterPath& filled) {
   const QTransform placed = along(from, to);
-  lines_.addPath(placed.map(outline));
+  lines_.push_back(placed.map(outline));
   solids_.addPath(placed.map(filled));
-  add_line(lines_, point(from), placed.map(QPointF{-half, 0}));
-  add_line(lines_, placed.map(QPointF{half, 0}), point(to));
+  add_line(lines_.emplace_back(), point(from), placed.map(QPointF{-half, 0}));
+  add_line(lines_.emplace_back(), placed.map(QPointF{half, 0}), point(to));
 }
 
 Schematic& Schematic::resistor(At from, At to) {
@@ -212,11 +208,11 @@ Schematic& Schematic::led(At from, At to) {
 Schematic& Schematic::ground(At place) {
   constexpr double stem = 0.8;
   constexpr double gap = 0.45;
-  add_lines(lines_, {place, {place.x, place.y + stem}});
+  lines_.push_back(polyline({place, {place.x, place.y + stem}}));
   double half = 1.2;
   for (int bar = 0; bar < 3; ++bar) {
     const double y = place.y + stem + bar * gap;
-    add_lines(lines_, {{place.x - half, y}, {place.x + half, y}});
+    lines_.push_back(polyline({{place.x - half, y}, {place.x + half, y}}));
     half -= 0.4;
   }
   return *this;
@@ -224,7 +220,7 @@ Schematic& Schematic::ground(At place) {
 
 Schematic& Schematic::terminal(At place) {
   constexpr double radius = 0.35;
-  terminals_.addEllipse(point(place), radius, radius);
+  terminals_.emplace_back().addEllipse(point(place), radius, radius);
   return *this;
 }
 
@@ -244,17 +240,15 @@ Schematic& Schematic::winding(At from, At to, double diameter, int turns) {
   const double length = std::hypot(to.x - from.x, to.y - from.y);
   const double pitch = length / turns;
   const double radius = diameter / 2;
-  QPainterPath front;
-  QPainterPath back;
   for (int turn = 0; turn < turns; ++turn) {
     const double x = -length / 2 + turn * pitch;
-    front.moveTo(x, radius);
+    QPainterPath front{{x, radius}};
     front.cubicTo(x - pitch * 0.3, radius, x + pitch * 0.2, -radius, x + pitch / 2, -radius);
-    back.moveTo(x + pitch / 2, -radius);
+    QPainterPath back{front.currentPosition()};
     back.cubicTo(x + pitch * 0.8, -radius, x + pitch * 0.9, radius, x + pitch, radius);
+    lines_.push_back(placed.map(front));
+    thin_lines_.push_back(placed.map(back));
   }
-  lines_.addPath(placed.map(front));
-  thin_lines_.addPath(placed.map(back));
   return *this;
 }
 
@@ -262,12 +256,13 @@ Schematic& Schematic::spiral(At centre, double inner_radius, double outer_radius
   constexpr int chords_in_turn = 72;
   constexpr double two_pi = 6.283185307179586;
   const int chords = turns * chords_in_turn;
-  lines_.moveTo(centre.x + inner_radius, centre.y);
+  QPainterPath path{{centre.x + inner_radius, centre.y}};
   for (int chord = 1; chord <= chords; ++chord) {
     const double radius = inner_radius + (outer_radius - inner_radius) * chord / chords;
     const double angle = two_pi * chord / chords_in_turn;
-    lines_.lineTo(centre.x + radius * std::cos(angle), centre.y + radius * std::sin(angle));
+    path.lineTo(centre.x + radius * std::cos(angle), centre.y + radius * std::sin(angle));
   }
+  lines_.push_back(path);
   return *this;
 }
 
@@ -336,19 +331,21 @@ void Schematic::paintEvent(QPaintEvent* /*event*/) {
 
   painter.save();
   painter.scale(step(), step());
-  const auto stroke = [&](const QPainterPath& path, double width, Qt::PenStyle style,
-                          Qt::PenCapStyle cap) {
-    painter.setBrush(Qt::NoBrush);
+  const auto stroke = [&](const Lines& lines, double width, Qt::PenStyle style, Qt::PenCapStyle cap,
+                          const QBrush& inside = Qt::NoBrush) {
+    painter.setBrush(inside);
     painter.setPen(QPen{ink, width, style, cap, Qt::MiterJoin});
-    painter.drawPath(path);
+    for (const QPainterPath& line : lines) {
+      painter.drawPath(line);
+    }
   };
   stroke(thin_lines_, thin_line_width, Qt::SolidLine, Qt::FlatCap);
   stroke(dashed_lines_, thin_line_width, Qt::DashLine, Qt::FlatCap);
   stroke(lines_, line_width, Qt::SolidLine, Qt::SquareCap);
   stroke(rods_, rod_width, Qt::SolidLine, Qt::FlatCap);
   painter.fillPath(solids_, ink);
-  painter.fillPath(terminals_, palette().color(QPalette::Window));  // over the ends of wires
-  stroke(terminals_, line_width, Qt::SolidLine, Qt::FlatCap);
+  const QBrush ground = palette().window();  // over the ends of wires
+  stroke(terminals_, line_width, Qt::SolidLine, Qt::FlatCap, ground);
   painter.restore();
 
   painter.setPen(ink);

@@ -97,12 +97,14 @@ class Schematic final : public QWidget {
 
   int columns_;
   int rows_;
-  QPainterPath lines_;
-  QPainterPath thin_lines_;
-  QPainterPath dashed_lines_;
-  QPainterPath rods_;
+  // Each line is a path of its own: to paint many as one takes the toolkit far longer.
+  using Lines = std::vector<QPainterPath>;
+  Lines lines_;
+  Lines thin_lines_;
+  Lines dashed_lines_;
+  Lines rods_;
+  Lines terminals_;
   QPainterPath solids_;
-  QPainterPath terminals_;
   std::vector<Mark> marks_;
   std::vector<Placed> labels_;
   Handler click_handler_;
