@@ -31,9 +31,12 @@ ComboBox::ComboBox(Parent parent, std::string_view name, std::string_view text, 
 
 void ComboBox::add(std::string_view entry, int value) {
   const QString shown = currentText();
+  const bool is_first = count() == 0;
   addItem(to_qt(entry), value);
-  setCurrentIndex(chosen_);  // the toolkit would show the first entry
-  setEditText(shown);
+  if (is_first) {  // the toolkit would show it
+    setCurrentIndex(-1);
+    setEditText(shown);
+  }
 }
 
 std::string ComboBox::content() const { return from_qt(currentText()); }
