@@ -31,13 +31,14 @@ DecimalDigits::DecimalDigits(Single x) : precision_{single_precision_digits} {
 
 void DecimalDigits::read(std::string_view scientific) {
   negative_ = scientific.front() == '-';
-  const std::size_t letter = scientific.find('e');
-  for (const char c : scientific.substr(0, letter)) {
-    if (c >= '0' && c <= '9') {
-      digits_[count_++] = c;
-    }
+  if (negative_) {
+    scientific.remove_prefix(1);
   }
-  std::string_view exponent = scientific.substr(letter + 1);
+  digits_[0] = scientific[0];
+  const auto count = static_cast<std::size_t>(precision_);
+  scientific.copy(digits_ + 1, count - 1, 2);  // behind the point
+  count_ = precision_;
+  std::string_view exponent = scientific.substr(count + 2);  // behind the letter
   if (exponent.front() == '+') {
     exponent.remove_prefix(1);  // from_chars takes no plus sign
   }

@@ -10,24 +10,17 @@ namespace eterlab {
 
 namespace {
 
-std::string grouped(const std::string& digits) {
+std::string grouped(std::string digits) {
   const RegionalSettings& region = regional_settings();
-  const auto total = static_cast<int>(digits.size());
-  if (region.group_separator.empty() || region.first_group <= 0 || total <= region.first_group) {
+  if (region.first_group <= 0) {
     return digits;
   }
-  std::string text;
-  for (int i = 0; i < total; ++i) {
-    // Counted from the decimal separator: a group begins here when the digits left fill whole ones.
-    const int beyond_first = total - i - region.first_group;
-    const bool group_begins = beyond_first == 0 || (beyond_first > 0 && region.other_groups > 0 &&
-                                                    beyond_first % region.other_groups == 0);
-    if (i > 0 && group_begins) {
-      text += region.group_separator;
-    }
-    text += digits[static_cast<std::size_t>(i)];
+  int place = static_cast<int>(digits.size()) - region.first_group;
+  while (place > 0) {
+    digits.insert(static_cast<std::size_t>(place), region.group_separator);
+    place = region.other_groups > 0 ? place - region.other_groups : 0;
   }
-  return text;
+  return digits;
 }
 
 std::string sign(const DecimalDigits& number) { return number.is_negative() ? "-" : ""; }
