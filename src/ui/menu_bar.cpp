@@ -25,13 +25,13 @@ MenuBar::MenuBar(QWidget& window) : QMenuBar{&window} {
   window.layout()->setMenuBar(this);
 }
 
-QWidget* MenuBar::container(std::string_view name) const {
+QWidget* MenuBar::container(std::string_view name) {
   if (name.empty()) {
-    return const_cast<MenuBar*>(this);
+    return this;
   }
-  auto* menu = findChild<QMenu*>(to_qt(name));
-  Q_ASSERT(menu != nullptr);
-  return menu;
+  const auto menu = menus_.find(name);
+  Q_ASSERT(menu != menus_.end());
+  return menu->second;
 }
 
 void MenuBar::add_submenu(std::string_view name, std::string_view caption,
@@ -39,6 +39,7 @@ void MenuBar::add_submenu(std::string_view name, std::string_view caption,
   QWidget* above = container(parent);
   auto* menu = new QMenu{to_qt(caption), above};
   menu->setObjectName(to_qt(name));
+  menus_.emplace(name, menu);
   above->addAction(named_action(menu->menuAction(), name));
 }
 

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QMenuBar>
+#include <functional>
+#include <map>
+#include <string>
 #include <string_view>
 
 #include "ui/control.h"
@@ -21,7 +24,9 @@ class MenuBar final : public QMenuBar {
 
  private:
   /// The menu of that name; the bar itself for an empty one.
-  [[nodiscard]] QWidget* container(std::string_view name) const;
+  [[nodiscard]] QWidget* container(std::string_view name);
+
+  std::map<std::string, QMenu*, std::less<>> menus_;
 };
 
 }  // namespace eterlab::ui
