@@ -5,10 +5,10 @@
 
 #include "common/arithmetic.h"
 
-// Numbers to text, in the three styles of the results. All of them work on the decimal digits of
-// the value, 15 of a Real and 7 of a Single, and round half away from zero on those digits: 1.25
-// with one decimal is 1.3, 1.005 with two is 1.01. What rounds to zero shows no minus sign. The
-// separators are those of regional_settings().
+// Numbers to text, in the three styles of the results. All of them work on the decimal digits
+// nearest to the value, 15 of a Real and 7 of a Single (the even ones of two equally near), and
+// round half away from zero on those digits: 1.25 with one decimal is 1.3, 1.005 with two is 1.01.
+// What rounds to zero shows no minus sign. The separators are those of regional_settings().
 
 namespace eterlab {
 
