@@ -111,6 +111,7 @@ TEST_F(AllWindows, BeginInTheirFirstInputAndGoOnInReadingOrder) {
     }
     const auto* first_box = window.findChild<QLineEdit*>();
     if (first_box != nullptr && first_box->isVisible()) {
+      // A combo box has the focus in place of its line edit.
       const QWidget* focused = window.focusWidget();
       EXPECT_TRUE(qobject_cast<const QLineEdit*>(focused) != nullptr ||
                   qobject_cast<const QComboBox*>(focused) != nullptr);

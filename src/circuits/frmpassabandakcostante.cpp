@@ -19,7 +19,7 @@ class frmpassabandakcostante final : public ui::Window {
   ui::Result lblfc{Frame1, "lblfc"};
   ui::Result lblbw{Frame1, "lblbw"};
   ui::Result lblq{Frame1, "lblq"};
-  ui::Schematic schema1{this, "schema1", 54, 20};
+  ui::Schematic schema1{this, "schema1", 52, 20};
   ui::Label lblzin{schema1, "lblzin"};
   ui::Label lbll1{schema1, "lbll1"};
   ui::Label lblc1{schema1, "lblc1"};
@@ -95,24 +95,24 @@ class frmpassabandakcostante final : public ui::Window {
   }
 
   void draw_section() {
-    draw_ends(schema1, 4, 50);
-    schema1.inductor({4, line}, {20, line})
-        .mark({12, above_line}, "L1")
-        .label(lbll1, {12, below_line}, Side::below)
-        .capacitor({20, line}, {32, line})
-        .mark({26, above_line}, "C1")
-        .label(lblc1, {26, below_line}, Side::below)
-        .wire({{32, line}, {50, line}})
-        .inductor({36, line}, {36, common_line})
-        .mark({33.4, name}, "L2")
-        .label(lbll2, {35, value}, Side::left)
-        .capacitor({40, line}, {40, common_line})
-        .mark({43.4, name}, "C2")
-        .label(lblc2, {41.4, value}, Side::right)
+    draw_ends(schema1, 4, 47);
+    schema1.inductor({4, line}, {19, line})
+        .mark({11.5, above_line}, "L1")
+        .label(lbll1, {11.5, below_line}, Side::below)
+        .capacitor({19, line}, {30, line})
+        .mark({24.5, above_line}, "C1")
+        .label(lblc1, {24.5, below_line}, Side::below)
+        .wire({{30, line}, {47, line}})
+        .inductor({34, line}, {34, common_line})
+        .mark({31.4, name}, "L2")
+        .label(lbll2, {33, value}, Side::left)
+        .capacitor({38, line}, {38, common_line})
+        .mark({41.4, name}, "C2")
+        .label(lblc2, {39.4, value}, Side::right)
         .label(lblzin, {4, line - 0.4}, Side::above)
-        .label(lblzout, {50, line - 0.4}, Side::above);
-    join(schema1, 36);
-    join(schema1, 40);
+        .label(lblzout, {47, line - 0.4}, Side::above);
+    join(schema1, 34);
+    join(schema1, 38);
   }
 
   void draw_split() {

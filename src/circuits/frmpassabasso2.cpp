@@ -69,7 +69,7 @@ class frmpassabasso2 final : public ui::Window {
       schema.capacitor({x, line}, {x, common_line})
           .junction({x, line})
           .junction({x, common_line})
-          .mark({x - 2.8, between_lines}, "C2");
+          .mark({x - 3.2, between_lines}, "C2");
     }
     schema.label(lblc2a, {20.4, between_lines}, Side::right)
         .label(lblc2b, {54.4, between_lines}, Side::right);

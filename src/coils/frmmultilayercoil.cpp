@@ -83,14 +83,13 @@ class frmmultilayercoil final : public ui::Window {
     constexpr double inner = 6;   // from the axis
     constexpr double outer = 11;  // from the axis
     constexpr double flange = 12.5;
-    constexpr double wire_radius = 0.75;
     for (const double side : {-1.0, 1.0}) {
       sketch.wire({{left, axis + side * inner}, {right, axis + side * inner}})
           .wire({{left, axis + side * inner}, {left, axis + side * flange}})
           .wire({{right, axis + side * inner}, {right, axis + side * flange}});
-      for (double x = left + 1; x < right; x += 2 * wire_radius + 0.05) {
-        for (double y = inner + 0.9; y < outer; y += 2 * wire_radius + 0.1) {
-          sketch.circle({x, axis + side * y}, wire_radius);
+      for (int turn = 0; turn < 10; ++turn) {
+        for (int layer = 0; layer < 3; ++layer) {
+          sketch.circle({left + 1 + turn * 1.55, axis + side * (inner + 0.9 + layer * 1.6)}, 0.75);
         }
       }
     }

@@ -32,9 +32,8 @@ constexpr ToroidSize t400 {"T-400",  "101,6",  "16,51"};
 constexpr ToroidSize t400a{"T-400A", "101,6",  "25,4"};
 constexpr ToroidSize t520 {"T-520",  "132,08", "20,32"};
 
-// By mix and inductance index. Indices published as halves are rounded to the even number: 7.5 to 8,
-// 18.5 to 18. Two rows are out of line with their powder, and stay as catalogued: T-50/15, and the
-// second T-225/ 6.
+// By mix and inductance index. Halves are rounded to the even number: 7.5 to 8, 18.5 to 18. Two
+// rows are out of line with their powder, and stay as catalogued: T-50/15 and the second T-225/ 6.
 constexpr std::array<ToroidCore, 170> cores{{
     {&t12,   0,  3},
     {&t12,   1,  48},

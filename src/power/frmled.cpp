@@ -68,7 +68,7 @@ class frmled final : public ui::Window {
     constexpr double led_x = 30;
     drawing.terminal({input_x, supply_y})
         .mark({input_x - 1.5, supply_y}, "+")
-        .resistor({input_x + 0.35, supply_y}, {led_x, supply_y})
+        .resistor({input_x, supply_y}, {led_x, supply_y})
         .led({led_x, supply_y}, {led_x, ground_y})
         .ground({led_x, ground_y});
     drawing.label(lbltensione, {0, supply_y + 2}, Side::right)

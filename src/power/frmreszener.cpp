@@ -64,8 +64,8 @@ class frmreszener final : public ui::Window {
     constexpr double zener_x = 34;
     constexpr double output_x = 51;
     drawing.terminal({input_x, supply_y})
-        .resistor({input_x + 0.35, supply_y}, {zener_x, supply_y})
-        .wire({{zener_x, supply_y}, {output_x - 0.35, supply_y}})
+        .resistor({input_x, supply_y}, {zener_x, supply_y})
+        .wire({{zener_x, supply_y}, {output_x, supply_y}})
         .terminal({output_x, supply_y})
         .junction({zener_x, supply_y})
         .zener({zener_x, ground_y}, {zener_x, supply_y})

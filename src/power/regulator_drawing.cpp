@@ -10,7 +10,6 @@ constexpr double input_x = 1;
 constexpr double input_capacitor_x = 6;
 constexpr double output_capacitor_x = 59;
 constexpr double output_x = 73;
-constexpr double terminal_radius = 0.35;
 constexpr double capacitor_label_y = 17;
 constexpr double voltage_y = 4.5;
 
@@ -19,7 +18,7 @@ constexpr double voltage_y = 4.5;
 void draw_supply(ui::Schematic& drawing, std::string_view reference_pin_name,
                  ui::Label& input_capacitor) {
   drawing.terminal({input_x, supply_y})
-      .wire({{input_x + terminal_radius, supply_y}, input_pin})
+      .wire({{input_x, supply_y}, input_pin})
       .electrolytic({input_capacitor_x, supply_y}, {input_capacitor_x, ground_y})
       .junction({input_capacitor_x, supply_y})
       .label(input_capacitor, {input_capacitor_x + 1, capacitor_label_y}, Side::right);
@@ -28,16 +27,16 @@ void draw_supply(ui::Schematic& drawing, std::string_view reference_pin_name,
       .mark({output_pin.x - 2.2, supply_y}, "OUT")
       .mark({reference_pin.x, reference_pin.y - 1.2}, reference_pin_name);
   drawing.terminal({input_x, ground_y})
-      .wire({{input_x + terminal_radius, ground_y}, ground})
+      .wire({{input_x, ground_y}, ground})
       .junction({input_capacitor_x, ground_y})
       .ground(ground);
 }
 
 void draw_divider_and_output(ui::Schematic& drawing, const DividerLabels& labels) {
   const double beside_divider_x = divider_x + 0.6;
-  drawing.wire({output_pin, {output_x - terminal_radius, supply_y}})
+  drawing.wire({output_pin, {output_x, supply_y}})
       .terminal({output_x, supply_y})
-      .wire({ground, {output_x - terminal_radius, ground_y}})
+      .wire({ground, {output_x, ground_y}})
       .terminal({output_x, ground_y})
       .wire({reference_pin, {reference_pin.x, reference_y}, {divider_x, reference_y}})
       .resistor({divider_x, supply_y}, {divider_x, reference_y})

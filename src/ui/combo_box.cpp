@@ -10,7 +10,7 @@ namespace eterlab::ui {
 
 namespace {
 
-constexpr int visible_entries = 20;
+constexpr int entries_in_sight = 20;
 
 }  // namespace
 
@@ -21,7 +21,7 @@ ComboBox::ComboBox(Parent parent, std::string_view name, std::string_view text, 
   setLineEdit(new PointLineEdit);
   setCompleter(nullptr);
   setInsertPolicy(NoInsert);
-  setMaxVisibleItems(visible_entries);
+  setMaxVisibleItems(entries_in_sight);
   // The toolkit would choose the entry whose text has been typed, on Enter and when the focus goes.
   lineEdit()->disconnect(SIGNAL(returnPressed()), this);
   lineEdit()->disconnect(SIGNAL(editingFinished()), this);

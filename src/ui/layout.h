@@ -2,6 +2,7 @@
 
 #include <QWidget>
 #include <initializer_list>
+#include <vector>
 
 class QBoxLayout;
 class QLayout;
@@ -83,6 +84,14 @@ template <class... Fields>
 Item form(Fields... fields) {
   return form({fields...});
 }
+
+/// One line of a table.
+struct TableRow {
+  Label* head;
+  std::vector<TextBox*> boxes;
+};
+/// Boxes in rows under the heads of their columns, named for screen readers by both heads.
+Item table(const std::vector<Label*>& column_heads, const std::vector<TableRow>& rows);
 
 /// Makes the reading order of a laid-out window its tab order.
 void set_tab_order(const QWidget& window);

@@ -72,7 +72,7 @@ Schematic::Schematic(Parent parent, std::string_view name, int columns, int rows
   solids_.setFillRule(Qt::WindingFill);
 }
 
-double Schematic::step() const { return theme::spacing() / 2.0; }
+double Schematic::step() { return theme::spacing() / 2.0; }
 
 QSize Schematic::sizeHint() const {
   return {static_cast<int>(std::ceil(columns_ * step())),

@@ -93,7 +93,7 @@ class Schematic final : public QWidget {
             const QPainterPath& filled = {});
   void arrow_head(At from, At to);
   void place_labels();
-  [[nodiscard]] double step() const;
+  [[nodiscard]] static double step();
 
   int columns_;
   int rows_;

@@ -38,6 +38,7 @@ void Window::arrange(const Item& contents, int width_in_characters) {
   set_tab_order(*this);
   least_width_ = theme::characters(width_in_characters);
   least_ = {least_width_, 0};
+  resize(least_);  // notes are wrapped for this width at once
   fit();
 }
 

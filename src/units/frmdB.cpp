@@ -65,6 +65,7 @@ class frmdB final : public ui::Window {
     lblinput1.reserve("TENSIONE ENTRATA");
     lblout1.reserve("9.999.999,999");
     lblout2.reserve("9.999.999,999");
+    lbldbesempio.setWordWrap(false);  // little room: a longer number widens the window
     example.arrange(ui::column(
         Label3, ui::form(field(Label4, lbldbesempio)), ui::form(field(Label5, txtvoltesempio)),
         ui::row(Label6, ui::form(field(Label7, Label9), field(Label8, Label10)))));

@@ -6,7 +6,6 @@ namespace {
 using Boxes = std::vector<test::Box>;
 using Texts = std::vector<std::string>;
 
-constexpr int t12_0 = 0;   // A_L 3
 constexpr int t50_2 = 77;  // A_L 49
 
 class frmadattatoritoroidali : public test::WindowTest {
@@ -30,28 +29,20 @@ TEST_F(frmadattatoritoroidali, TwoHundredOhmToFifty) {
   compute("7", "200", "50");
   EXPECT_EQ(results(), (Texts{"OCCORRONO 68.1 SPIRE VERSO L'ANTENNA",
                               "INTERCALATE CON 34.1 SPIRE VERSO IL CAVO"}));
-}
-
-// Turns 34558.18 and a third of them.
-TEST_F(frmadattatoritoroidali, ItalianResults) {
   set_regional_settings(test::italian());
-  window.pick("cmbnucleo", t12_0);
-  compute("0.001", "450", "50");
-  EXPECT_EQ(results(), (Texts{"OCCORRONO 34.558,2 SPIRE VERSO L'ANTENNA",
-                              "INTERCALATE CON 11.519,4 SPIRE VERSO IL CAVO"}));
+  compute("7e-6", "200", "50");  // a thousand times as many
+  EXPECT_EQ(results(), (Texts{"OCCORRONO 68.135,4 SPIRE VERSO L'ANTENNA",
+                              "INTERCALATE CON 34.067,7 SPIRE VERSO IL CAVO"}));
 }
 
 TEST_F(frmadattatoritoroidali, InputsTakeThePlaceOfTheAdvice) {
-  const char* const input[] = {"Label2", "txtfrequenza", "Label3",     "txtimpantenna",
-                               "Label4", "txtimpcavo",   "cmdcalcola", "lblpunto"};
-  EXPECT_TRUE(window.shows("lblhelp"));
-  for (const char* control : input) {
-    EXPECT_FALSE(window.shows(control)) << control;
-  }
-  window.pick("cmbnucleo", t50_2);
-  EXPECT_FALSE(window.shows("lblhelp"));
-  for (const char* control : input) {
-    EXPECT_TRUE(window.shows(control)) << control;
+  for (const bool is_chosen : {false, true}) {
+    EXPECT_NE(window.shows("lblhelp"), is_chosen);
+    for (const char* control : {"Label2", "txtfrequenza", "Label3", "txtimpantenna", "Label4",
+                                "txtimpcavo", "cmdcalcola", "lblpunto"}) {
+      EXPECT_EQ(window.shows(control), is_chosen) << control;
+    }
+    window.pick("cmbnucleo", t50_2);
   }
 }
 

@@ -9,12 +9,7 @@
 namespace eterlab::coils {
 namespace {
 
-class MultilayerCoilTest : public ::testing::Test {
- protected:
-  ~MultilayerCoilTest() override { set_regional_settings({}); }
-};
-
-TEST_F(MultilayerCoilTest, FromTurnsBobbinAndWire) {
+TEST(MultilayerCoil, FromTurnsBobbinAndWire) {
   struct Expected {
     double turns, width_cm, inner_radius_cm, wire_cm;
     double turns_per_layer, layers, thickness_cm, outer_radius_cm;
@@ -41,12 +36,13 @@ TEST_F(MultilayerCoilTest, FromTurnsBobbinAndWire) {
   }
 }
 
-TEST_F(MultilayerCoilTest, RegionalDecimalsDecideTheLengthOnly) {
+TEST(MultilayerCoil, RegionalDecimalsDecideTheLengthOnly) {
   set_regional_settings({".", ",", 3, 3, 3});
   const MultilayerCoil coil = multilayer_coil(100, 1, 1, 0.05);
   EXPECT_EQ(coil.wire_length_m, 7.065);
   EXPECT_NEAR(coil.resistance_ohm.value(), 0.647672, 1e-6);
   EXPECT_EQ(coil.inductance_uh, 218.45);
+  set_regional_settings({});
 }
 
 }  // namespace

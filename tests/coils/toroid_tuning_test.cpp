@@ -14,11 +14,6 @@ TEST(ToroidTuning, ThirdQuantityFromTheOtherTwo) {
   EXPECT_EQ(from_inductance_and_capacitance(-4, -25).frequency_mhz, 15.9);
 }
 
-TEST(ToroidTuning, GivenQuantitiesAreKept) {
-  EXPECT_EQ(from_inductance_and_capacitance(4, 25).inductance_uh, 4);
-  EXPECT_EQ(from_frequency_and_inductance(5, 4).inductance_uh, 4);
-}
-
 TEST(ToroidTuning, OneNegativeReactanceHasNoFrequency) {
   EXPECT_THROW(from_inductance_and_capacitance(-4, 25), ArithmeticFault);
 }

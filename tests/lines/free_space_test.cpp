@@ -20,7 +20,7 @@ TEST(FreeSpace, Attenuation) {
       {2400, 0.1, 80.04},       // 80.04180
       {145.5, 1234.5, 137.52},  // 137.52466
       {10000, 384400, 224.13},  // to the moon
-      {0.001, 0.001, -87.56},   // -87.56243: within the near field the formula means nothing
+      {0.001, 0.001, -87.56},   // -87.56243: nearer than the formula means anything
   };
   for (const Expected& expected : table) {
     const FreeSpacePath path = free_space_path(expected.frequency_mhz, expected.distance_km);
@@ -32,12 +32,6 @@ TEST(FreeSpace, Attenuation) {
 TEST(FreeSpace, NoDistanceIsOneMetre) {
   EXPECT_EQ(free_space_path(432, 0).distance_km, 0.001);
   EXPECT_EQ(free_space_path(432, 0).attenuation_db, 25.15);  // 25.14725
-}
-
-TEST(FreeSpace, Faults) {
-  EXPECT_THROW(free_space_path(0, 1), ArithmeticFault);
-  EXPECT_THROW(free_space_path(-145, 1), ArithmeticFault);
-  EXPECT_THROW(free_space_path(145, -1), ArithmeticFault);
 }
 
 }  // namespace
