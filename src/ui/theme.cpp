@@ -4,6 +4,7 @@
 #include <QFontMetrics>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QStyleOption>
 #include <algorithm>
 
 #include "ui/icons.h"
@@ -27,6 +28,17 @@ class Style final : public QProxyStyle {
                   const QWidget* widget) const override {
     // The main window's ten menus stand in one row.
     return metric == PM_MenuBarItemSpacing ? 0 : QProxyStyle::pixelMetric(metric, option, widget);
+  }
+
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                         const QWidget* widget) const override {
+    QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (type == CT_PushButton && button != nullptr && !button->text.isEmpty()) {
+      // Air between a caption and the border.
+      size.rwidth() = std::max(size.width(), contents.width() + spacing());
+    }
+    return size;
   }
 
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
