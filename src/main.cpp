@@ -9,6 +9,7 @@ int main(int argc, char* argv[]) {
   using namespace eterlab;
 
   QApplication application{argc, argv};
+  QApplication::setDesktopFileName("eterlab");
   ui::theme::apply();
   set_regional_settings(ui::regional_settings_of(QLocale::system()));
 

@@ -10,11 +10,12 @@ Single folded_dipole_length_m(Real frequency_mhz);
 
 /// The two tubes of a folded dipole, of which the lower one is fed.
 struct FoldedDipoleTubes {
-  Real lower_diameter_mm;
-  Real upper_diameter_mm;
-  Real spacing_mm;  ///< between the axes of the tubes
+  Real lower_diameter_mm;  ///< of the fed tube
+  Real upper_diameter_mm;  ///< of the unbroken tube
+  Real spacing_mm;         ///< between the axes of the tubes
 };
 
+/// What the second tube does to the impedance in the middle of the dipole.
 struct ImpedanceStepUp {
   Real ratio;          ///< to the impedance of a plain dipole, rounded to one decimal
   Real impedance_ohm;  ///< of the folded dipole, from the rounded ratio and 75 ohm

@@ -9,7 +9,7 @@ struct LoadedVertical {
   Real length_m;         ///< from the base to the tip
   Single coil_height_m;  ///< from the base to the coil
   Real diameter_mm;      ///< of the radiator
-  Real frequency_mhz;
+  Real frequency_mhz;    ///< of resonance
 };
 
 /// Whether radiator and image together reach the half wave, 142 over the frequency in MHz. The
@@ -19,9 +19,11 @@ bool reaches_half_wave(const LoadedVertical& antenna);
 /// Whether the coil stands at the tip or above it, compared in the precision of the coil's height.
 bool has_coil_beyond_tip(const LoadedVertical& antenna);
 
-// The following hold for positive dimensions with the coil below the tip and an antenna that does
-// not reach the half wave. Outside of that they compute what can be computed; the logarithm of a
-// negative number and a division by zero are faults.
+/// @name Of an antenna to be loaded
+/// For positive dimensions with the coil below the tip and an antenna that does not reach the half
+/// wave. Outside of that these compute what can be computed; the logarithm of a negative number and
+/// a division by zero are faults.
+/// @{
 
 /// Inductance of the coil that brings the antenna to resonance: it makes up for what the part above
 /// it lacks to a full quarter wave. Source: the antenna handbooks' formula for dipoles with two
@@ -37,5 +39,7 @@ Real radiation_resistance_ohm(const LoadedVertical& antenna);
 
 /// Length of a radial, a quarter of a wave.
 Real radial_length_m(Real frequency_mhz);
+
+/// @}
 
 }  // namespace eterlab::antennas

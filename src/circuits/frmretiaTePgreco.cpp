@@ -17,7 +17,6 @@ constexpr double centre = columns / 2.0;
 constexpr double top = 6;
 constexpr double bottom = 16;
 constexpr double middle = (top + bottom) / 2;
-constexpr double lead = 0.35;  // radius of a terminal
 constexpr double edge = 0.65;  // of a resistor
 
 // Attenuators of a wanted loss between two impedances, as a T and as a pi.
@@ -70,8 +69,8 @@ class frmretiaTePgreco final : public ui::Window {
     constexpr double series_in = (left + centre) / 2;
     constexpr double series_out = (centre + right) / 2;
     draw_ports(t_schematic, Label1);
-    t_schematic.resistor({left + lead, top}, {centre, top})
-        .resistor({centre, top}, {right - lead, top})
+    t_schematic.resistor({left, top}, {centre, top})
+        .resistor({centre, top}, {right, top})
         .resistor({centre, top}, {centre, bottom})
         .junction({centre, top})
         .junction({centre, bottom})
@@ -87,9 +86,9 @@ class frmretiaTePgreco final : public ui::Window {
     constexpr double shunt_in = 7;
     constexpr double shunt_out = columns - shunt_in;
     draw_ports(pi_schematic, Label2);
-    pi_schematic.wire({{left + lead, top}, {shunt_in, top}})
+    pi_schematic.wire({{left, top}, {shunt_in, top}})
         .resistor({shunt_in, top}, {shunt_out, top})
-        .wire({{shunt_out, top}, {right - lead, top}})
+        .wire({{shunt_out, top}, {right, top}})
         .resistor({shunt_in, top}, {shunt_in, bottom})
         .resistor({shunt_out, top}, {shunt_out, bottom})
         .junction({shunt_in, top})
@@ -109,7 +108,7 @@ class frmretiaTePgreco final : public ui::Window {
         .terminal({left, bottom})
         .terminal({right, top})
         .terminal({right, bottom})
-        .wire({{left + lead, bottom}, {right - lead, bottom}})
+        .wire({{left, bottom}, {right, bottom}})
         .label(name, {centre, 1.2});
   }
 

@@ -56,15 +56,14 @@ class frmretiaTponte final : public ui::Window {
     constexpr double first = (branch_in + centre) / 2;
     constexpr double second = (centre + branch_out) / 2;
     constexpr double middle = (series + bottom) / 2;
-    constexpr double lead = 0.35;
     constexpr double edge = 0.65;
     schematic.terminal({left, series})
         .terminal({left, bottom})
         .terminal({right, series})
         .terminal({right, bottom})
-        .wire({{left + lead, series}, {branch_in, series}, {branch_in, bridge}})
-        .wire({{right - lead, series}, {branch_out, series}, {branch_out, bridge}})
-        .wire({{left + lead, bottom}, {right - lead, bottom}})
+        .wire({{left, series}, {branch_in, series}, {branch_in, bridge}})
+        .wire({{right, series}, {branch_out, series}, {branch_out, bridge}})
+        .wire({{left, bottom}, {right, bottom}})
         .resistor({branch_in, bridge}, {branch_out, bridge})
         .resistor({branch_in, series}, {centre, series})
         .resistor({centre, series}, {branch_out, series})

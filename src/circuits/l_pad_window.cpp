@@ -5,10 +5,10 @@
 namespace eterlab::circuits {
 
 LPadWindow::LPadWindow(std::string_view name, std::string_view title) : Window{name, title} {
-  schematic.terminal({left - 0.35, top})
-      .terminal({left - 0.35, bottom})
-      .terminal({right + 0.35, top})
-      .terminal({right + 0.35, bottom})
+  schematic.terminal({left, top})
+      .terminal({left, bottom})
+      .terminal({right, top})
+      .terminal({right, bottom})
       .label(Label2, {left, 1.5})
       .label(Label4, {right, 1.5});
   for (ui::Label* end : {&Label2, &Label4}) {

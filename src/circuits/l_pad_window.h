@@ -15,8 +15,8 @@ class LPadWindow : public ui::Window {
 
  protected:
   // The terminals of both ends, on the drawing of either window.
-  static constexpr double left = 12.35;
-  static constexpr double right = 44.65;
+  static constexpr double left = 12;
+  static constexpr double right = 45;
   static constexpr double top = 6;
   static constexpr double bottom = 16;
 

@@ -11,6 +11,8 @@ struct PowerUnit {
   double voltage_factor;  ///< brings the root of ohm x power unit to the voltage unit
 };
 
+/// @{
+/// Power unit and voltage unit; the factor between them has up to five digits.
 inline constexpr PowerUnit watt_to_volt{1000, 1, 1};
 inline constexpr PowerUnit milliwatt_to_millivolt{1, 1, 31.623};
 inline constexpr PowerUnit microwatt_to_millivolt{1, 1e3, 1};
@@ -18,6 +20,7 @@ inline constexpr PowerUnit nanowatt_to_millivolt{1, 1e6, 0.0316};
 inline constexpr PowerUnit nanowatt_to_microvolt{1, 1e6, 31.623};
 inline constexpr PowerUnit picowatt_to_microvolt{1, 1e9, 1};
 inline constexpr PowerUnit femtowatt_to_microvolt{1, 1e12, 0.0316};
+/// @}
 
 /// RMS voltage, in the unit's voltage unit, of a power across a resistance: U = sqrt(R P).
 /// The product of the two must not be negative.

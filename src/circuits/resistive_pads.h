@@ -4,8 +4,10 @@
 
 namespace eterlab::circuits {
 
-// Networks of resistors between two impedances, in ohm and dB. Sources: the image-parameter design
-// of resistive pads.
+/// @name Resistive pads
+/// Networks of resistors between two impedances, in ohm and dB. Source: the image-parameter design
+/// of resistive pads.
+/// @{
 
 /// The L of two resistors that matches two impedances with the least loss.
 struct MinimumLossPad {
@@ -18,17 +20,18 @@ struct MinimumLossPad {
 /// impedances are a fault.
 MinimumLossPad minimum_loss_pad(Real higher_ohm, Real lower_ohm);
 
-/// The resistors of an attenuator, each rounded half up to two decimals.
+/// The resistors of a T, each rounded half up to two decimals.
 struct TPad {
-  Real series_in_ohm;
-  Real series_out_ohm;
-  Real shunt_ohm;
+  Real series_in_ohm;   ///< from the input to the shunt
+  Real series_out_ohm;  ///< from the shunt to the output
+  Real shunt_ohm;       ///< from between the two to ground
 };
 
+/// The resistors of a pi, each rounded half up to two decimals.
 struct PiPad {
-  Real shunt_in_ohm;
-  Real shunt_out_ohm;
-  Single series_ohm;
+  Real shunt_in_ohm;   ///< across the input
+  Real shunt_out_ohm;  ///< across the output
+  Single series_ohm;   ///< from the input to the output
 };
 
 /// The least loss that t_pad and pi_pad may be asked for: 20 log(r + sqrt(r - 1)) dB, with r the
@@ -42,18 +45,21 @@ Real told_in_whole_db(Real loss_db);
 /// Attenuators of this loss between an input impedance and an output impedance that is not above
 /// it. Valid from the least loss on; a loss that does not change the power divides by zero.
 TPad t_pad(Real input_ohm, Real output_ohm, Real loss_db);
+/// @copydoc t_pad
 PiPad pi_pad(Real input_ohm, Real output_ohm, Real loss_db);
 
 /// The attenuator between equal impedances whose loss two resistors alone decide; the two in series
 /// equal the impedance.
 struct BridgedTPad {
-  Real series_ohm;
-  Real shunt_ohm;
-  Real bridge_ohm;
+  Real series_ohm;  ///< each of the two in series
+  Real shunt_ohm;   ///< from between the two to ground
+  Real bridge_ohm;  ///< across both of them
 };
 
 /// shunt = Z / (K - 1), bridge = Z (K - 1), with the voltage ratio K in single precision: a loss so
 /// small that K is 1 divides by zero.
 BridgedTPad bridged_t_pad(Real impedance_ohm, Real loss_db);
+
+/// @}
 
 }  // namespace eterlab::circuits

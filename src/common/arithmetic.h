@@ -9,10 +9,15 @@ namespace eterlab {
 /// A computation left the range of numbers. No window traps it: the program reports it and ends.
 class ArithmeticFault : public std::runtime_error {
  public:
-  enum class Kind : std::uint8_t { division_by_zero, overflow, invalid_argument };
+  /// What the computation did.
+  enum class Kind : std::uint8_t {
+    division_by_zero,
+    overflow,         ///< the result is too large
+    invalid_argument  ///< a function was asked for where it has no value
+  };
 
-  explicit ArithmeticFault(Kind kind);
-  [[nodiscard]] Kind kind() const noexcept { return kind_; }
+  explicit ArithmeticFault(Kind kind);  ///< with an English text as its what()
+  [[nodiscard]] Kind kind() const noexcept { return kind_; }  ///< what the computation did
 
  private:
   Kind kind_;
@@ -23,14 +28,18 @@ class ArithmeticFault : public std::runtime_error {
 class Real {
  public:
   constexpr Real() noexcept = default;
+  /// Throws overflow for an infinity and invalid_argument for a NaN.
   constexpr Real(double value) : value_{value} { require_finite(); }
 
-  [[nodiscard]] constexpr double value() const noexcept { return value_; }
+  [[nodiscard]] constexpr double value() const noexcept { return value_; }  ///< as a plain number
 
+  /// @{
+  /// As of plain numbers.
   constexpr Real operator-() const { return Real{-value_}; }
   friend constexpr bool operator==(const Real&, const Real&) noexcept = default;
   // NOLINTNEXTLINE(modernize-use-nullptr): the checker misreads a defaulted comparison.
   friend constexpr auto operator<=>(const Real&, const Real&) noexcept = default;
+  /// @}
 
  private:
   constexpr void require_finite() const {
@@ -43,11 +52,14 @@ class Real {
   double value_ = 0;
 };
 
+/// @{
+/// A result beyond the range of a double throws overflow; a division by zero throws
+/// division_by_zero, whatever the dividend.
 constexpr Real operator+(Real a, Real b) { return Real{a.value() + b.value()}; }
 constexpr Real operator-(Real a, Real b) { return Real{a.value() - b.value()}; }
 constexpr Real operator*(Real a, Real b) { return Real{a.value() * b.value()}; }
-/// Throws division_by_zero whatever the dividend.
 Real operator/(Real a, Real b);
+/// @}
 
 /// A value narrowed to single precision. Computing with it widens it back to Real.
 class Single {
@@ -56,8 +68,8 @@ class Single {
   /// Nearest single-precision value; a magnitude beyond its range throws overflow.
   explicit Single(Real value);
 
-  [[nodiscard]] constexpr float value() const noexcept { return value_; }
-  constexpr operator Real() const { return Real{value_}; }
+  [[nodiscard]] constexpr float value() const noexcept { return value_; }  ///< as a plain number
+  constexpr operator Real() const { return Real{value_}; }                 ///< widened, unchanged
 
  private:
   float value_ = 0;

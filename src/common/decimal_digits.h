@@ -10,15 +10,19 @@ namespace eterlab {
 /// The decimal digits of a value: d1.d2d3... x 10^exponent, d1 not 0 unless the value is zero.
 class DecimalDigits {
  public:
-  explicit DecimalDigits(Real x);
-  explicit DecimalDigits(Single x);
+  explicit DecimalDigits(Real x);    ///< 15 digits
+  explicit DecimalDigits(Single x);  ///< 7 digits
 
   /// Rounds half away from zero on the digits held.
   void round_to(int decimals);
+  /// Those after the last digit that is not 0.
   void drop_trailing_zeros();
 
+  /// Whether no digit but 0 is left.
   [[nodiscard]] bool is_zero() const { return count_ == 0; }
+  /// Zero is not.
   [[nodiscard]] bool is_negative() const { return negative_ && !is_zero(); }
+  /// The power of ten of the first digit.
   [[nodiscard]] int exponent() const { return exponent_; }
   /// How many digits the type of the value carries: 15 or 7.
   [[nodiscard]] int precision() const { return precision_; }
@@ -32,6 +36,7 @@ class DecimalDigits {
   [[nodiscard]] std::string fraction(int decimals) const;
   /// The number of digits after the decimal point, the last of them not 0 after dropping zeros.
   [[nodiscard]] int decimals() const;
+  /// The number that the digits held write.
   [[nodiscard]] Real value() const;
 
  private:

@@ -7,8 +7,8 @@ namespace eterlab::lines {
 /// A gamma match: a rod beside a half-wave radiator, joined to it by a sliding strap and fed in its
 /// centre through a series capacitor.
 struct GammaMatch {
-  Real wavelength_m;
-  Real rod_length_cm;
+  Real wavelength_m;     ///< in free space
+  Real rod_length_cm;    ///< from the centre of the radiator to the strap
   Real spacing_cm;       ///< between the axes of rod and radiator
   Real capacitance_pf;   ///< of the series capacitor, a whole number
   Real cable_length_cm;  ///< of RG 8/213 cable that serves as the capacitor, a whole number

@@ -8,11 +8,11 @@ namespace eterlab::lines {
 
 /// What a standing-wave ratio tells about a load on a 50 ohm line fed by a 50 ohm source.
 struct Mismatch {
-  Real high_impedance_ohm;  ///< the resistive load above the line's impedance that causes it
-  Real low_impedance_ohm;   ///< the one below
-  Real reflection_coefficient;
-  Real reflected_percent;              ///< of the power, rounded to one decimal
-  Real radiated_percent;               ///< what the rounded reflected part leaves of 100
+  Real high_impedance_ohm;      ///< the resistive load above the line's impedance that causes it
+  Real low_impedance_ohm;       ///< the one below
+  Real reflection_coefficient;  ///< of the voltage, 0 to below 1
+  Real reflected_percent;       ///< of the power, rounded to one decimal
+  Real radiated_percent;        ///< what the rounded reflected part leaves of 100
   std::optional<Real> return_loss_db;  ///< none for a perfect match, where it is infinite
 };
 

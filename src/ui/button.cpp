@@ -11,6 +11,8 @@ Button::Button(Parent parent, std::string_view name, std::string_view caption, T
   set_up(*this, name, tip);
 }
 
+void Button::set_caption(std::string_view caption) { setText(to_qt(caption)); }
+
 void Button::on_click(const Handler& handler) {
   connect(this, &QPushButton::clicked, this, [handler] { Desktop::instance().run(handler); });
 }

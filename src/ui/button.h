@@ -11,6 +11,7 @@ class Button : public QPushButton {
  public:
   Button(Parent parent, std::string_view name, std::string_view caption, Tooltip tip = {});
 
+  void set_caption(std::string_view caption);
   void on_click(const Handler& handler);
 };
 

@@ -8,6 +8,12 @@
 
 namespace eterlab::ui {
 
+namespace {
+
+constexpr int entries_in_sight = 20;
+
+}  // namespace
+
 ComboBox::ComboBox(Parent parent, std::string_view name, std::string_view text, Tooltip tip)
     : QComboBox{parent.widget()} {
   set_up(*this, name, tip);
@@ -15,6 +21,7 @@ ComboBox::ComboBox(Parent parent, std::string_view name, std::string_view text, 
   setLineEdit(new PointLineEdit);
   setCompleter(nullptr);
   setInsertPolicy(NoInsert);
+  setMaxVisibleItems(entries_in_sight);
   // The toolkit would choose the entry whose text has been typed, on Enter and when the focus goes.
   lineEdit()->disconnect(SIGNAL(returnPressed()), this);
   lineEdit()->disconnect(SIGNAL(editingFinished()), this);
@@ -38,6 +45,13 @@ void ComboBox::on_choose(const Handler& handler) {
 void ComboBox::choose(int index) {
   setCurrentIndex(index);
   emit activated(index);
+}
+
+void ComboBox::choose(std::string_view entry) {
+  const int index = findText(to_qt(entry), Qt::MatchExactly | Qt::MatchCaseSensitive);
+  if (index >= 0) {
+    choose(index);
+  }
 }
 
 }  // namespace eterlab::ui

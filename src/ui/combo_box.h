@@ -29,6 +29,8 @@ class ComboBox final : public QComboBox {
   void on_choose(const Handler& handler);
   /// Chooses as the user does.
   void choose(int index);
+  /// The first entry of that text; nothing happens when there is none.
+  void choose(std::string_view entry);
 
  private:
   int chosen_ = -1;

@@ -9,12 +9,26 @@
 
 namespace eterlab::ui {
 
+namespace {
+
+void keep_place_when_hidden(QWidget& control, bool keep) {
+  QSizePolicy policy = control.sizePolicy();
+  policy.setRetainSizeWhenHidden(keep);
+  control.setSizePolicy(policy);
+}
+
+}  // namespace
+
 void set_up(QWidget& control, std::string_view name, Tooltip tip) {
   control.setObjectName(to_qt(name));
   control.setToolTip(to_qt(tip.text));
-  QSizePolicy policy = control.sizePolicy();
-  policy.setRetainSizeWhenHidden(true);
-  control.setSizePolicy(policy);
+  keep_place_when_hidden(control, true);
+}
+
+void give_up_place_when_hidden(std::initializer_list<QWidget*> parts) {
+  for (QWidget* part : parts) {
+    keep_place_when_hidden(*part, false);
+  }
 }
 
 namespace {

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 #include <functional>
+#include <initializer_list>
 #include <string_view>
 
 namespace eterlab::ui {
@@ -35,6 +36,9 @@ struct Colour {
 
 /// Gives a control its name and hint, and keeps its place in the layout while it is hidden.
 void set_up(QWidget& control, std::string_view name, Tooltip tip);
+
+/// For parts that a window opens and closes: they take no room in the layout while they are hidden.
+void give_up_place_when_hidden(std::initializer_list<QWidget*> parts);
 
 /// Whether a control shows, or would if its window did.
 inline bool is_shown(const QWidget& control) { return !control.isHidden(); }

@@ -1,5 +1,6 @@
 #include "ui/icons.h"
 
+#include <QDir>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
@@ -39,6 +40,15 @@ void draw_open_door(QPainter& painter) {
 }
 
 }  // namespace
+
+QIcon program_icon() {
+  QIcon icon;
+  const QDir sizes{":/icons"};
+  for (const QString& file : sizes.entryList()) {
+    icon.addFile(sizes.filePath(file));
+  }
+  return icon;
+}
 
 QIcon open_door_icon() {
   QIcon icon;

@@ -7,6 +7,9 @@ namespace eterlab::ui {
 /// Logical pixels along each side of a button's picture.
 constexpr int icon_size = 32;
 
+/// The program's own, as its desktop entry has it.
+QIcon program_icon();
+
 /// A door standing open and an arrow leaving through it.
 QIcon open_door_icon();
 

@@ -105,6 +105,14 @@ QSize Label::minimumSizeHint() const {
   return size;
 }
 
+int Label::heightForWidth(int width) const {
+  // Wrapping a paragraph is most of the work of a layout, and every layout asks for it repeatedly.
+  if (wrapped_.width != width || wrapped_.text != text() || wrapped_.font != font()) {
+    wrapped_ = {text(), font(), width, QLabel::heightForWidth(width)};
+  }
+  return wrapped_.height;
+}
+
 void Label::mouseReleaseEvent(QMouseEvent* event) {
   QLabel::mouseReleaseEvent(event);
   if (click_handler_ && event->button() == Qt::LeftButton && rect().contains(event->pos())) {

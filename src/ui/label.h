@@ -39,6 +39,7 @@ class Label : public QLabel {
   [[nodiscard]] Role role() const { return role_; }
 
   [[nodiscard]] QSize minimumSizeHint() const override;
+  [[nodiscard]] int heightForWidth(int width) const override;
 
  protected:
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -49,7 +50,16 @@ class Label : public QLabel {
   void announce();
   void name_prompted();
 
+  /// The height that a text takes when it is wrapped.
+  struct Wrapped {
+    QString text;
+    QFont font;
+    int width = -1;
+    int height = -1;
+  };
+
   Role role_ = Role::text;
+  mutable Wrapped wrapped_;
   QWidget* prompted_ = nullptr;
   QString unprompted_name_;
   /// Written while it was hidden.

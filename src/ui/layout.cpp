@@ -22,6 +22,13 @@ QVBoxLayout* new_column(std::initializer_list<Item> items) {
   return column;
 }
 
+QGridLayout* new_grid() {
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(theme::spacing() / 2);
+  grid->setVerticalSpacing(theme::spacing() / 2);
+  return grid;
+}
+
 /// The focusable controls of a layout, in reading order.
 void collect(const QLayout& layout, QWidgetList& controls) {
   for (int i = 0; i < layout.count(); ++i) {
@@ -81,6 +88,14 @@ Item row(std::initializer_list<Item> items) {
   return Item{row};
 }
 
+Item alternatives(std::initializer_list<Item> items) {
+  auto* place = new QGridLayout;
+  for (const Item& item : items) {
+    place->addLayout(new_column({item}), 0, 0);
+  }
+  return Item{place};
+}
+
 Item buttons(std::initializer_list<Item> items) {
   auto* row = new QHBoxLayout;
   row->addStretch(1);
@@ -118,9 +133,7 @@ Field field(Label& name, Label& value, Label& unit) {
 }
 
 Item form(std::initializer_list<Field> fields) {
-  auto* grid = new QGridLayout;
-  grid->setHorizontalSpacing(theme::spacing() / 2);
-  grid->setVerticalSpacing(theme::spacing() / 2);
+  auto* grid = new_grid();
   int line = 0;
   for (const Field& field : fields) {
     field.prompt->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -134,6 +147,28 @@ Item form(std::initializer_list<Field> fields) {
     ++line;
   }
   grid->setColumnStretch(2, 1);
+  return Item{grid};
+}
+
+Item table(const std::vector<Label*>& column_heads, const std::vector<TableRow>& rows) {
+  auto* grid = new_grid();
+  int column = 1;
+  for (Label* head : column_heads) {
+    grid->addWidget(head, 0, column++, Qt::AlignHCenter);
+  }
+  int line = 1;
+  for (const TableRow& row : rows) {
+    row.head->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(row.head, line, 0);
+    column = 1;
+    for (TextBox* box : row.boxes) {
+      const Label& column_head = *column_heads[static_cast<std::size_t>(column - 1)];
+      box->setAccessibleName(row.head->text() + ' ' + column_head.text());
+      grid->addWidget(box, line, column++);
+    }
+    ++line;
+  }
+  grid->setColumnStretch(column, 1);
   return Item{grid};
 }
 

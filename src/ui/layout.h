@@ -2,6 +2,7 @@
 
 #include <QWidget>
 #include <initializer_list>
+#include <vector>
 
 class QBoxLayout;
 class QLayout;
@@ -38,6 +39,8 @@ class Item {
 
 Item column(std::initializer_list<Item> items);
 Item row(std::initializer_list<Item> items);
+/// In one place, where each shows while the others are hidden.
+Item alternatives(std::initializer_list<Item> items);
 /// The buttons of a window: at its bottom, to the right.
 Item buttons(std::initializer_list<Item> items);
 
@@ -48,6 +51,10 @@ Item column(Items&&... items) {
 template <class... Items>
 Item row(Items&&... items) {
   return row({Item{items}...});
+}
+template <class... Items>
+Item alternatives(Items&&... items) {
+  return alternatives({Item{items}...});
 }
 template <class... Items>
 Item buttons(Items&&... items) {
@@ -77,6 +84,14 @@ template <class... Fields>
 Item form(Fields... fields) {
   return form({fields...});
 }
+
+/// One line of a table.
+struct TableRow {
+  Label* head;
+  std::vector<TextBox*> boxes;
+};
+/// Boxes in rows under the heads of their columns, named for screen readers by both heads.
+Item table(const std::vector<Label*>& column_heads, const std::vector<TableRow>& rows);
 
 /// Makes the reading order of a laid-out window its tab order.
 void set_tab_order(const QWidget& window);

@@ -6,6 +6,8 @@
 #include <QProxyStyle>
 #include <algorithm>
 
+#include "ui/icons.h"
+
 namespace eterlab::ui::theme {
 
 namespace {
@@ -55,6 +57,7 @@ void apply() {
     QApplication::setFont(font);
   }
   set_palette(QApplication::palette());
+  QApplication::setWindowIcon(program_icon());
 }
 
 void set_palette(QPalette palette) {
@@ -105,6 +108,10 @@ QFont font_of(Label::Role role) {
 }
 
 int characters(int count) { return QFontMetrics{QApplication::font()}.averageCharWidth() * count; }
+
+double font_scale() {
+  return std::max(1.0, QApplication::font().pointSizeF() / smallest_readable_points);
+}
 
 int spacing() { return QFontMetrics{QApplication::font()}.height(); }
 

@@ -9,7 +9,8 @@
 
 namespace eterlab::ui::theme {
 
-/// Sets style, font and colours; once, when the application is made and before its first window.
+/// Sets style, font, colours and icon; once, when the application is made and before its first
+/// window.
 void apply();
 
 /// Gives the whole program these colours, and quiet text its own out of them.
@@ -22,6 +23,10 @@ QFont font_of(Label::Role role);
 
 /// Width of a text of so many average characters in the user's font.
 int characters(int count);
+
+/// How much larger the user's font is than the usual one, at least 1; what the design places at
+/// given coordinates moves apart with it.
+double font_scale();
 
 /// Distance between unrelated things; related ones stand at half of it.
 int spacing();

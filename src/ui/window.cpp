@@ -36,7 +36,9 @@ void Window::arrange(const Item& contents, int width_in_characters) {
   contents.fill(*this, theme::margin());
   layout()->setSizeConstraint(QLayout::SetNoConstraint);
   set_tab_order(*this);
-  least_ = {theme::characters(width_in_characters), 0};
+  least_width_ = theme::characters(width_in_characters);
+  least_ = {least_width_, 0};
+  resize(least_);  // notes are wrapped for this width at once
   fit();
 }
 
@@ -49,7 +51,7 @@ void Window::arrange(FixedArea& area) {
 void Window::set_client_area(TwipsSize size) {
   const QWidget* menu_bar = layout()->menuBar();
   const int above = menu_bar == nullptr ? 0 : menu_bar->sizeHint().height();
-  least_ = size.pixels() + QSize{0, above};
+  least_ = (size.pixels() + QSize{0, above}).expandedTo({least_width_, 0});
   fit();
 }
 

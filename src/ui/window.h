@@ -41,7 +41,7 @@ class Window : public QWidget {
   /// The same for a window that is one fixed area up to its edges.
   void arrange(FixedArea& area);
   /// For a window whose size the design gives: at least so much, more where the user's font asks
-  /// for it. A menu bar does not count.
+  /// for it; called again, it may also shrink. A menu bar does not count.
   void set_client_area(TwipsSize size);
 
   /// For a window that Esc does not close.
@@ -82,6 +82,7 @@ class Window : public QWidget {
   [[nodiscard]] QPushButton* button_for_enter() const;
   void focus_first_input();
 
+  int least_width_ = 0;
   QSize least_;
   bool was_shown_ = false;
   bool escape_closes_ = true;

@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QIcon>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
@@ -39,6 +40,14 @@ TEST_F(FRMETERLAB, TextsAndPlaces) {
   EXPECT_EQ(window.control("background").size(), QSize(567, 394));
   EXPECT_EQ(window.control("lbltitolo").font().pointSizeF(), 20.25);
   EXPECT_TRUE(window.control("lbltitolo").font().bold());
+}
+
+// A resource that a linker dropped would leave the window without a picture of its own.
+TEST_F(FRMETERLAB, CarriesTheProgramsIconInTheSizesOfADesktop) {
+  const QIcon icon = window.window().windowIcon();
+  for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
+    EXPECT_TRUE(icon.availableSizes().contains(QSize(size, size))) << size;
+  }
 }
 
 TEST_F(FRMETERLAB, TitleBlinksUntilItIsClicked) {

@@ -1,8 +1,10 @@
 #include "support/layout_faults.h"
 
-#include <QImage>
+#include <QBitmap>
 #include <QLabel>
 #include <QMenu>
+#include <QPixmap>
+#include <QRegion>
 
 #include "ui/schematic.h"
 #include "ui/text.h"
@@ -25,33 +27,32 @@ QSize room_for_text(const QWidget& control) {
                                                : control.minimumSizeHint();
 }
 
-/// The room that a control's contents take of it: an empty label takes none.
-QRect ink(const QWidget& control) {
-  const auto* label = qobject_cast<const QLabel*>(&control);
-  return label != nullptr && label->text().isEmpty() ? QRect{} : control.geometry();
+/// What the lines and letters of a drawing take of it, without the labels that stand on it.
+QRegion drawn(ui::Schematic& schematic) {
+  QPixmap picture{schematic.size()};
+  picture.fill(Qt::transparent);
+  schematic.render(&picture, {}, {}, QWidget::RenderFlags{});
+  return picture.mask();
 }
 
-/// Whether a drawing has lines where one of its labels stands.
-bool crosses_lines(const QImage& drawing, const QRect& letters) {
-  const QRgb ground = drawing.pixel(0, 0);
-  const QRect seen = letters.intersected(drawing.rect());
-  for (int y = seen.top(); y <= seen.bottom(); ++y) {
-    for (int x = seen.left(); x <= seen.right(); ++x) {
-      if (drawing.pixel(x, y) != ground) {
-        return true;
-      }
-    }
+/// The room that a control's contents take of its parent: an empty label takes none.
+QRegion ink(QWidget& control) {
+  const auto* label = qobject_cast<const QLabel*>(&control);
+  if (label != nullptr && label->text().isEmpty()) {
+    return {};
   }
-  return false;
+  if (auto* schematic = dynamic_cast<ui::Schematic*>(&control); schematic != nullptr) {
+    return drawn(*schematic).translated(control.pos());
+  }
+  return control.geometry();
 }
 
 void add_drawing_faults(ui::Schematic& schematic, std::vector<std::string>& faults) {
-  QImage drawing{schematic.size(), QImage::Format_ARGB32};
-  drawing.fill(Qt::transparent);
-  schematic.render(&drawing, {}, {}, QWidget::RenderFlags{});  // without its labels
-  for (const QLabel* label : schematic.findChildren<QLabel*>()) {
+  const QRegion lines = drawn(schematic);
+  for (QLabel* label : schematic.findChildren<QLabel*>()) {
     // The letters themselves stand well inside.
-    if (label->isVisible() && crosses_lines(drawing, ink(*label).adjusted(2, 3, -2, -3))) {
+    const QRect letters = ink(*label).boundingRect().adjusted(2, 3, -2, -3);
+    if (label->isVisible() && lines.intersects(letters)) {
       faults.push_back(name_of(*label) + " stands on a line of " + name_of(schematic));
     }
   }
@@ -87,7 +88,7 @@ std::vector<std::string> layout_faults(const QWidget& window) {
     if (!control->parentWidget()->rect().contains(control->geometry())) {
       faults.push_back(name_of(*control) + " leaves its parent");
     }
-    for (const QWidget* other : controls) {
+    for (QWidget* other : controls) {
       if (other > control && other->parentWidget() == control->parentWidget() &&
           ink(*control).intersects(ink(*other))) {
         faults.push_back(name_of(*control) + " overlaps " + name_of(*other));

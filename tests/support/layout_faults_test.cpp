@@ -56,6 +56,14 @@ TEST_F(LayoutFaults, LettersOverALine) {
   EXPECT_EQ(found(), Faults{"lbll stands on a line of sketch"});
 }
 
+TEST_F(LayoutFaults, AControlOverTheLinesOfADrawing) {
+  window.Label1.move(window.sketch.pos() - QPoint{0, window.Label1.height() / 2});
+  window.Label1.raise();
+  EXPECT_EQ(found(), Faults{});  // the top of the drawing is empty
+  window.Label1.move(window.sketch.geometry().center() - window.Label1.rect().center());
+  EXPECT_EQ(found(), Faults{"Label1 overlaps sketch"});
+}
+
 TEST_F(LayoutFaults, AWindowLargerThanTheScreen) {
   window.setFixedSize(1300, 900);
   EXPECT_EQ(found(), Faults{"the window is 1300x900"});

@@ -1,5 +1,6 @@
 #include "support/window_test.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
@@ -9,14 +10,18 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPrinter>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <memory>
 #include <ostream>
 #include <stdexcept>
 #include <utility>
 
 #include "shell/menu_catalogue.h"
+#include "ui/printing.h"
+#include "ui/registry.h"
 #include "ui/text.h"
 
 namespace eterlab::test {
@@ -69,6 +74,16 @@ void Driven::click(std::string_view name) const {
   QTest::mouseClick(&control(name), Qt::LeftButton);
 }
 
+void Driven::pick(std::string_view name, int entry) const {
+  auto& box = dynamic_cast<QComboBox&>(control(name));
+  box.setFocus();
+  QTest::keyClick(&box, Qt::Key_Down, Qt::AltModifier);
+  const QModelIndex index = box.model()->index(entry, box.modelColumn());
+  box.view()->scrollTo(index);
+  QTest::mouseClick(box.view()->viewport(), Qt::LeftButton, {},
+                    box.view()->visualRect(index).center());
+}
+
 std::string Driven::text(std::string_view name) const {
   const QWidget& widget = control(name);
   // Every text is the plain text property of its widget; a frame's is its title.
@@ -101,6 +116,7 @@ std::string Driven::focus() const {
 
 WindowTest::WindowTest() : desktop_{[this] { has_ended_ = true; }} {
   set_regional_settings(english());
+  ui::set_printer_source([] { return std::unique_ptr<QPrinter>{}; });
   desktop_.show("FRMETERLAB");
 }
 
@@ -141,6 +157,16 @@ void WindowTest::settle() {
 }
 
 void WindowTest::close(std::string_view window) { driven(window).window().close(); }
+
+void WindowTest::expect_companion(std::string_view window, QPoint corner) {
+  if (!ui::registry::contains(window)) {
+    EXPECT_EQ(boxes(), std::vector{notice("FINESTRA NON ANCORA DISPONIBILE")});
+    return;
+  }
+  ASSERT_TRUE(is_open(window));
+  EXPECT_EQ(driven(window).window().pos(), corner);
+  EXPECT_FALSE(driven(window).window().isModal());
+}
 
 std::vector<Box> WindowTest::boxes() { return std::exchange(watcher_.boxes, {}); }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QObject>
+#include <QPoint>
 #include <QString>
 #include <QWidget>
 #include <iosfwd>
@@ -55,6 +56,8 @@ class Driven {
   void clear(std::string_view box) const { type(box, ""); }
   void press(Qt::Key key) const;
   void click(std::string_view name) const;
+  /// Opens a drop-down list and clicks on the entry at that place.
+  void pick(std::string_view combo_box, int entry) const;
 
   /// Text of a label, box, option or button; title of a frame.
   [[nodiscard]] std::string text(std::string_view name) const;
@@ -68,7 +71,7 @@ class Driven {
   QWidget* window_;
 };
 
-/// Each test starts the program anew, with English settings.
+/// Each test starts the program anew, with English settings and without a printer.
 class WindowTest : public ::testing::Test {
  public:
   ~WindowTest() override;
@@ -82,6 +85,9 @@ class WindowTest : public ::testing::Test {
   Driven driven(std::string_view window);
   [[nodiscard]] bool is_open(std::string_view window) const;
   void close(std::string_view window);
+  /// That a window has been shown beside another, at this place; or the notice that takes its place
+  /// as long as there is none of that name.
+  void expect_companion(std::string_view window, QPoint corner);
   /// Lets the event loop do what it was asked for. A text that grows inside a frame moves first the
   /// frame's layout, then the window's.
   static void settle();

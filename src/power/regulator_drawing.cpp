@@ -1,0 +1,57 @@
+#include "power/regulator_drawing.h"
+
+namespace eterlab::power::regulator_drawing {
+
+namespace {
+
+using Side = ui::Schematic::Side;
+
+constexpr double input_x = 1;
+constexpr double input_capacitor_x = 6;
+constexpr double output_capacitor_x = 59;
+constexpr double output_x = 73;
+constexpr double capacitor_label_y = 17;
+constexpr double voltage_y = 4.5;
+
+}  // namespace
+
+void draw_supply(ui::Schematic& drawing, std::string_view reference_pin_name,
+                 ui::Label& input_capacitor) {
+  drawing.terminal({input_x, supply_y})
+      .wire({{input_x, supply_y}, input_pin})
+      .electrolytic({input_capacitor_x, supply_y}, {input_capacitor_x, ground_y})
+      .junction({input_capacitor_x, supply_y})
+      .label(input_capacitor, {input_capacitor_x + 1, capacitor_label_y}, Side::right);
+  drawing.box({input_pin.x, 3.5}, {output_pin.x, reference_pin.y})
+      .mark({input_pin.x + 1.6, supply_y}, "IN")
+      .mark({output_pin.x - 2.2, supply_y}, "OUT")
+      .mark({reference_pin.x, reference_pin.y - 1.2}, reference_pin_name);
+  drawing.terminal({input_x, ground_y})
+      .wire({{input_x, ground_y}, ground})
+      .junction({input_capacitor_x, ground_y})
+      .ground(ground);
+}
+
+void draw_divider_and_output(ui::Schematic& drawing, const DividerLabels& labels) {
+  const double beside_divider_x = divider_x + 0.6;
+  drawing.wire({output_pin, {output_x, supply_y}})
+      .terminal({output_x, supply_y})
+      .wire({ground, {output_x, ground_y}})
+      .terminal({output_x, ground_y})
+      .wire({reference_pin, {reference_pin.x, reference_y}, {divider_x, reference_y}})
+      .resistor({divider_x, supply_y}, {divider_x, reference_y})
+      .resistor({divider_x, reference_y}, {divider_x, ground_y})
+      .junction({divider_x, supply_y})
+      .junction({divider_x, reference_y})
+      .junction({divider_x, ground_y})
+      .electrolytic({output_capacitor_x, supply_y}, {output_capacitor_x, ground_y})
+      .junction({output_capacitor_x, supply_y})
+      .junction({output_capacitor_x, ground_y});
+  drawing.label(labels.r1, {beside_divider_x, (supply_y + reference_y) / 2}, Side::right)
+      .label(labels.r2, {beside_divider_x, (reference_y + ground_y) / 2}, Side::right)
+      .label(labels.output_capacitor, {output_capacitor_x + 1, capacitor_label_y}, Side::right)
+      .label(labels.input_voltage, {0, voltage_y}, Side::right)
+      .label(labels.output_voltage, {columns, voltage_y}, Side::left);
+}
+
+}  // namespace eterlab::power::regulator_drawing

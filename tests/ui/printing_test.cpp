@@ -1,0 +1,68 @@
+#include "ui/printing.h"
+
+#include <gtest/gtest-spi.h>
+
+#include <QFile>
+#include <QPrinter>
+#include <QTemporaryDir>
+
+#include "support/window_test.h"
+
+namespace eterlab {
+namespace {
+
+using Boxes = std::vector<test::Box>;
+
+class Printing : public test::WindowTest {
+ protected:
+  test::Driven window = choose("mnupassabanda2");
+  QTemporaryDir folder;
+  QString file = folder.filePath("scheda.pdf");
+
+  /// Printers in this test write to that file.
+  static void print_to(const QString& path) {
+    ui::set_printer_source([path] {
+      auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+      printer->setOutputFormat(QPrinter::PdfFormat);
+      printer->setOutputFileName(path);
+      return printer;
+    });
+  }
+  [[nodiscard]] QByteArray printed() const {
+    QFile pdf{file};
+    return pdf.open(QIODevice::ReadOnly) ? pdf.readAll() : QByteArray{};
+  }
+};
+
+TEST_F(Printing, OnePageWithTheLettersAsLetters) {
+  print_to(file);
+  window.click("cmdstampa");
+  EXPECT_EQ(boxes(), Boxes{});
+  const QByteArray pdf = printed();
+  EXPECT_TRUE(pdf.startsWith("%PDF"));
+  EXPECT_EQ(pdf.count("/Type /Page\n"), 1);
+  EXPECT_GT(pdf.count("/Type /Font\n"), 0);
+  // The largest picture on the page is that of a button, not of the window.
+  const QByteArray width = "/Width ";
+  for (qsizetype at = pdf.indexOf(width); at >= 0; at = pdf.indexOf(width, at + 1)) {
+    const QByteArray pixels = pdf.mid(at + width.size()).split('\n').first();
+    EXPECT_LT(pixels.toInt(), window.window().width() / 2);
+  }
+}
+
+TEST_F(Printing, WithoutAPrinterItSaysSoAndGoesOn) {
+  window.type("txtf", "7");
+  window.click("cmdstampa");
+  EXPECT_EQ(boxes(), Boxes{test::error("NESSUNA STAMPANTE DISPONIBILE")});
+  EXPECT_EQ(window.text("txtf"), "7");
+}
+
+TEST_F(Printing, APrinterThatDoesNotTakeThePage) {
+  print_to(folder.filePath("missing/scheda.pdf"));
+  const test::Driven band_pass = choose("mnupbk");
+  EXPECT_NONFATAL_FAILURE(band_pass.click("Command1"), "QPainter::begin");  // the toolkit grumbles
+  EXPECT_EQ(boxes(), Boxes{test::error("STAMPA NON RIUSCITA")});
+}
+
+}  // namespace
+}  // namespace eterlab
