@@ -36,11 +36,13 @@ std::string fixed_text(DecimalDigits number, int decimals) {
 
 std::string pattern_text(DecimalDigits number, std::string_view mask) {
   const std::size_t point = mask.find('.');
-  const std::string_view before = mask.substr(0, point);
+  std::string before{mask.substr(0, point)};
+  const bool grouping = std::erase(before, ',') > 0;
   const std::string_view after =
       point == std::string_view::npos ? std::string_view{} : mask.substr(point + 1);
-  const auto always_before = std::count(before.begin(), before.end(), '0');
-  const auto always_after = static_cast<int>(std::count(after.begin(), after.end(), '0'));
+  // The outermost "0" on each side decides: what stands within it is always written too.
+  const auto always_before = before.size() - std::min(before.find('0'), before.size());
+  const auto always_after = static_cast<int>(after.find_last_of('0') + 1);
 
   number.round_to(static_cast<int>(after.size()));
   number.drop_trailing_zeros();
@@ -48,10 +50,7 @@ std::string pattern_text(DecimalDigits number, std::string_view mask) {
   if (always_before == 0 && integer == "0") {
     integer.clear();
   }
-  const auto padding =
-      std::max<std::ptrdiff_t>(always_before - static_cast<std::ptrdiff_t>(integer.size()), 0);
-  integer.insert(0, static_cast<std::size_t>(padding), '0');
-  const bool grouping = before.find(',') != std::string_view::npos;
+  integer.insert(0, always_before - std::min(always_before, integer.size()), '0');
 
   std::string text = sign(number) + (grouping ? grouped(integer) : integer);
   if (point != std::string_view::npos) {

@@ -8,10 +8,10 @@
 namespace eterlab {
 
 /// @name Numbers to text
-/// In the three styles of the results. All of them work on the decimal digits of the value, 15 of a
-/// Real and 7 of a Single, and round half away from zero on those digits: 1.25 with one decimal is
-/// 1.3, 1.005 with two is 1.01. What rounds to zero shows no minus sign. The separators are those
-/// of regional_settings().
+/// In the three styles of the results. All of them work on the decimal digits nearest to the value,
+/// 15 of a Real and 7 of a Single (the even ones of two equally near), and round half away from
+/// zero on those digits: 1.25 with one decimal is 1.3, 1.005 with two is 1.01. What rounds to zero
+/// shows no minus sign. The separators are those of regional_settings().
 /// @{
 
 /// Exactly `decimals` decimals (0 or more), digit grouping, at least one digit before the

@@ -6,11 +6,13 @@
 
 #include "common/arithmetic.h"
 
-// The World Wide Locator: a field of 20 by 10 degrees (two letters), a square of 2 by 1 degrees in
-// it (two digits), a subsquare of 5 by 2.5 minutes in that (two letters), counted from 180 degrees
-// west and 90 degrees south. Source: the Maidenhead definition of 1980.
-
 namespace eterlab::units {
+
+/// @name World Wide Locator
+/// A field of 20 by 10 degrees (two letters), a square of 2 by 1 degrees in it (two digits), a
+/// subsquare of 5 by 2.5 minutes in that (two letters), counted from 180 degrees west and 90
+/// degrees south. Source: the Maidenhead definition of 1980.
+/// @{
 
 /// East and north are positive. The single precision of the latitude is part of the results: it
 /// decides in which cell a point on a border lies.
@@ -38,5 +40,7 @@ struct DegreesAndMinutes {
 };
 /// Takes an angle apart: -0.5 degrees are -1 degrees and 30 minutes.
 DegreesAndMinutes degrees_and_minutes(Real angle_deg);
+
+/// @}
 
 }  // namespace eterlab::units

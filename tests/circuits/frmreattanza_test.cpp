@@ -3,90 +3,48 @@
 namespace eterlab {
 namespace {
 
-using test::WindowTest;
-using Boxes = std::vector<test::Box>;
+using test::Texts;
 
-class frmreattanza : public WindowTest {
+class frmreattanza : public test::WindowTest {
  protected:
   test::Driven window = choose("mnureattanza");
 
-  void compute(const char* frequency, const char* second) const {
-    window.type("txtinput_0", frequency);
-    window.type("txtinput_1", second);
-    window.click("cmdcalcola");
+  std::string compute(const char* frequency, const char* second) const {
+    window.enter({{"txtinput_0", frequency}, {"txtinput_1", second}});
+    return window.text("lblinput_3");
+  }
+  void expect_kind(int kind, const Texts& names) const {
+    EXPECT_EQ(window.texts({"lblfantasma", "lblinput_0", "lblinput_1", "lblinput_2"}), names);
+    for (const int i : {0, 1}) {
+      EXPECT_EQ(window.colour("Option1_" + std::to_string(i)), i == kind ? "#ff0000" : "#000000");
+    }
   }
 };
 
-TEST_F(frmreattanza, EachKindNamesAndComputes) {
-  struct Expected {
-    const char* kind;
-    std::vector<std::string> texts;
-    const char* second;
-    const char* result;
-  };
-  // 6.28 x 7 x 10 = 439.6 and 159000 / 700 = 227.14286.
-  const Expected kinds[] = {
-      {"Option1_0",
-       {"XL in Ohm = 6,28 x (Mhz x induttanza in \u00b5H)", "Mhz", "microH", "XL Ohm"},
-       "10",
-       "439.600"},
-      {"Option1_1",
-       {"XC in Ohm = 159.000 : (Mhz x pF)", "Mhz", "picoF", "XC Ohm"},
-       "100",
-       "227.143"},
-  };
-  for (const Expected& expected : kinds) {
-    window.click(expected.kind);
-    EXPECT_EQ((std::vector{window.text("lblfantasma"), window.text("lblinput_0"),
-                           window.text("lblinput_1"), window.text("lblinput_2")}),
-              expected.texts);
-    compute("7", expected.second);
-    EXPECT_EQ(window.text("lblinput_3"), expected.result);
-  }
-}
-
-TEST_F(frmreattanza, ChosenKindIsRed) {
+// 6.28 x 7 x 10 = 439.6; 159000 / 700 = 227.14286 and 159000 / 100 = 1590.
+TEST_F(frmreattanza, EachKindNamesComputesAndIsRed) {
+  EXPECT_EQ(compute("7", "100"), "227.143");  // without a kind it is a capacitor
+  expect_kind(-1, {"", "", "", ""});
   window.click("Option1_0");
-  EXPECT_EQ(window.colour("Option1_0"), "#ff0000");
-  EXPECT_EQ(window.colour("Option1_1"), "#000000");
+  expect_kind(0, {"XL in Ohm = 6,28 x (Mhz x induttanza in µH)", "Mhz", "microH", "XL Ohm"});
+  EXPECT_EQ(compute("7", "10"), "439.600");
   window.click("Option1_1");
-  EXPECT_EQ(window.colour("Option1_0"), "#000000");
-  EXPECT_EQ(window.colour("Option1_1"), "#ff0000");
-}
-
-TEST_F(frmreattanza, ItalianResultIsGrouped) {
+  expect_kind(1, {"XC in Ohm = 159.000 : (Mhz x pF)", "Mhz", "picoF", "XC Ohm"});
   set_regional_settings(test::italian());
-  window.click("Option1_1");
-  compute("0.1", "1000");
-  EXPECT_EQ(window.text("lblinput_3"), "1.590,000");
-}
-
-TEST_F(frmreattanza, WithoutAKindItIsACapacitor) {
-  EXPECT_EQ(window.text("lblinput_0") + window.text("lblinput_2") + window.text("lblfantasma"), "");
-  compute("7", "100");
-  EXPECT_EQ(window.text("lblinput_3"), "227.143");
-  EXPECT_EQ(window.text("lblinput_2"), "");
+  EXPECT_EQ(compute("0.1", "1000"), "1.590,000");
 }
 
 TEST_F(frmreattanza, OnlyTheProductIsChecked) {
   window.click("Option1_0");
-  compute("-7", "-10");
-  EXPECT_EQ(window.text("lblinput_3"), "439.600");
-  EXPECT_EQ(boxes(), Boxes{});
-  for (const char* second : {"10", ""}) {
-    compute("-7", second);
-    EXPECT_EQ(boxes(), Boxes{test::error("MANCANO DATI")});
-    EXPECT_EQ(window.focus(), "txtinput_0");
-    EXPECT_EQ(window.text("lblinput_3"), "");
-  }
+  EXPECT_EQ(compute("-7", "-10"), "439.600");
+  EXPECT_EQ(compute("-7", "10"), "");
+  expect_refusal(window, test::error("MANCANO DATI"), "txtinput_0");
 }
 
 TEST_F(frmreattanza, CoilWindowStandsBeside) {
   window.click("cmdchiamabobine");
   EXPECT_EQ(window.window().pos(), QPoint(12, 12));
   expect_companion("frmbobine", QPoint(273, 187));
-  window.click("cmnesci");
-  EXPECT_FALSE(is_open("frmreattanza"));
 }
 
 }  // namespace

@@ -56,6 +56,7 @@ TEST_F(NumberText, PatternKeepsTheSeparatorWithoutDecimals) {
   EXPECT_EQ(pattern(131.9556, "##0.#"), "132,");
   EXPECT_EQ(pattern(0.5, "#.##"), ",5");
   EXPECT_EQ(pattern(7, "00.0#"), "07,0");
+  EXPECT_EQ(pattern(7, "0##.#0"), "007,00");  // a "#" between digits always written is one too
   EXPECT_EQ(pattern(1234.5, "#,##0"), "1.235");
 }
 

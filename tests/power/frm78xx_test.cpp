@@ -1,72 +1,45 @@
-#include "support/window_test.h"
+#include "support/form_test.h"
 
 namespace eterlab {
 namespace {
 
-using Boxes = std::vector<test::Box>;
+using test::english;
+using test::italian;
 
-class frm78xx : public test::WindowTest {
+class frm78xx : public test::FormTest {
  protected:
-  test::Driven window = choose("mnu78xx");
+  frm78xx() : FormTest{"mnu78xx", {"txtvu"}, {"lblr1", "lblr2", "lblvin", "Label7"}} {}
+  const std::string note = window.text("Label7");  // shown with the first results
 };
 
-TEST_F(frm78xx, EveryType) {
-  struct Expected {
-    const char* type;
-    const char* r1;
-    const char* r2;
-  };
-  const Expected table[] = {{"7805", "200 Ohm", "800 Ohm"}, {"7808", "320 Ohm", "680 Ohm"},
-                            {"7812", "480 Ohm", "520 Ohm"}, {"7815", "600 Ohm", "400 Ohm"},
-                            {"7818", "720 Ohm", "280 Ohm"}, {"7824", "960 Ohm", "40 Ohm"}};
+TEST_F(frm78xx, EveryTypeAtTwentyFiveVolt) {
+  const char* const table[][3] = {{"7805", "200 Ohm", "800 Ohm"}, {"7808", "320 Ohm", "680 Ohm"},
+                                  {"7812", "480 Ohm", "520 Ohm"}, {"7815", "600 Ohm", "400 Ohm"},
+                                  {"7818", "720 Ohm", "280 Ohm"}, {"7824", "960 Ohm", "40 Ohm"}};
   int index = 0;
-  for (const Expected& expected : table) {
-    SCOPED_TRACE(expected.type);
+  for (const auto& [type, r1, r2] : table) {
     window.click("Option1_" + std::to_string(index++));
-    EXPECT_EQ(window.text("lbl78xx"), expected.type);
-    EXPECT_EQ(window.text("lblr1"), "R1");
-    EXPECT_EQ(window.text("lblr2"), "R2");
-    EXPECT_EQ(window.text("txtvu"), "");
-    window.type("txtvu", "25");
-    window.press(Qt::Key_Enter);
-    EXPECT_EQ(window.text("lblr1"), expected.r1);
-    EXPECT_EQ(window.text("lblr2"), expected.r2);
+    EXPECT_EQ(window.text("lbl78xx"), type);
+    EXPECT_EQ(window.text("lblr1") + window.text("lblr2") + window.text("txtvu"), "R1R2");
+    expect_computed({{english(), {"25"}, {r1, r2, "35 Volt Input", note}}});
     EXPECT_EQ(window.text("lblvout"), "25 Volt Out");
-    EXPECT_EQ(window.text("lblvin"), "35 Volt Input");
   }
 }
 
-TEST_F(frm78xx, ItalianResultsAndNote) {
-  set_regional_settings(test::italian());
-  EXPECT_FALSE(window.shows("Label7"));
-  window.click("Option1_0");
-  window.type("txtvu", "9");
-  window.click("cmdcalcola");
-  EXPECT_EQ(window.text("lblvin"), "12,6 Volt Input");
-  EXPECT_TRUE(window.shows("Label7"));
-  window.type("txtvu", "35");  // R2 without grouping: 1200
-  window.click("cmdcalcola");
-  EXPECT_EQ(window.text("lblr2"), "1200 Ohm");
-}
-
-TEST_F(frm78xx, OutputOutOfRange) {
+TEST_F(frm78xx, RefusesWhatTheTypeCannotGive) {
+  const test::Box out_of_range = test::error("DATO NON CONGRUO");
   window.click("Option1_2");
-  for (const char* voltage : {"12", "36", ""}) {
-    SCOPED_TRACE(voltage);
-    window.type("txtvu", voltage);
-    window.click("cmdcalcola");
-    EXPECT_EQ(boxes(), Boxes{test::error("DATO NON CONGRUO")});
-    EXPECT_EQ(window.focus(), "txtvu");
-    EXPECT_EQ(window.text("lblr1"), "R1");
-    EXPECT_FALSE(window.shows("Label7"));
-  }
+  expect_refused({{{"12"}, out_of_range, "txtvu"},
+                  {{"36"}, out_of_range, "txtvu"},
+                  {{""}, out_of_range, "txtvu"}});
+  EXPECT_EQ(results(), (test::Texts{"R1", "R2", "", ""}));
+  window.click("Option1_0");
+  expect_computed({{italian(), {"9"}, {"200 Ohm", "160 Ohm", "12,6 Volt Input", note}},
+                   {italian(), {"35"}, {"200 Ohm", "1200 Ohm", "49 Volt Input", note}}});
 }
 
 TEST_F(frm78xx, WithoutATypeTheNominalVoltageIsZero) {
-  window.type("txtvu", "9");
-  window.click("cmdcalcola");
-  EXPECT_EQ(window.text("lblr1"), "0 Ohm");
-  EXPECT_EQ(window.text("lblr2"), "360 Ohm");
+  expect_computed({{english(), {"9"}, {"0 Ohm", "360 Ohm", "12.6 Volt Input", note}}});
 }
 
 }  // namespace

@@ -65,6 +65,13 @@ void Driven::type(std::string_view box, std::string_view text) const {
   QTest::keyClicks(&widget, to_qt(text));
 }
 
+void Driven::enter(std::initializer_list<Input> inputs) const {
+  for (const Input& input : inputs) {
+    type(input.box, input.text);
+  }
+  press(Qt::Key_Return);
+}
+
 void Driven::press(Qt::Key key) const {
   QWidget* focused = window_->focusWidget();
   QTest::keyClick(focused == nullptr ? window_ : focused, key);
@@ -96,6 +103,14 @@ std::string Driven::text(std::string_view name) const {
     return from_qt(combo->currentText());
   }
   return from_qt(widget.property("text").toString());
+}
+
+Texts Driven::texts(std::initializer_list<std::string_view> names) const {
+  Texts texts;
+  for (const std::string_view name : names) {
+    texts.push_back(text(name));
+  }
+  return texts;
 }
 
 std::string Driven::tooltip(std::string_view name) const {
@@ -169,5 +184,10 @@ void WindowTest::expect_companion(std::string_view window, QPoint corner) {
 }
 
 std::vector<Box> WindowTest::boxes() { return std::exchange(watcher_.boxes, {}); }
+
+void WindowTest::expect_refusal(const Driven& window, const Box& box, std::string_view focus) {
+  EXPECT_EQ(boxes(), std::vector{box});
+  EXPECT_EQ(window.focus(), focus);
+}
 
 }  // namespace eterlab::test

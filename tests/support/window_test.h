@@ -6,6 +6,7 @@
 #include <QPoint>
 #include <QString>
 #include <QWidget>
+#include <initializer_list>
 #include <iosfwd>
 #include <string>
 #include <string_view>
@@ -20,6 +21,8 @@ namespace eterlab::test {
 
 inline RegionalSettings italian() { return {",", ".", 3, 3, 2}; }
 inline RegionalSettings english() { return {".", ",", 3, 3, 2}; }
+
+using Texts = std::vector<std::string>;
 
 /// A message box that came up and was answered with OK.
 struct Box {
@@ -53,6 +56,12 @@ class Driven {
 
   /// Replaces the text of a box, key by key.
   void type(std::string_view box, std::string_view text) const;
+  struct Input {
+    std::string_view box;
+    std::string_view text;
+  };
+  /// Types into box after box, then presses Return.
+  void enter(std::initializer_list<Input> inputs) const;
   void clear(std::string_view box) const { type(box, ""); }
   void press(Qt::Key key) const;
   void click(std::string_view name) const;
@@ -61,6 +70,7 @@ class Driven {
 
   /// Text of a label, box, option or button; title of a frame.
   [[nodiscard]] std::string text(std::string_view name) const;
+  [[nodiscard]] Texts texts(std::initializer_list<std::string_view> names) const;
   [[nodiscard]] std::string tooltip(std::string_view name) const;
   [[nodiscard]] bool shows(std::string_view name) const;
   /// Text colour as "#rrggbb".
@@ -94,6 +104,8 @@ class WindowTest : public ::testing::Test {
 
   /// The boxes since the last call.
   std::vector<Box> boxes();
+  /// That this box alone has come up since then, and that the focus is there now.
+  void expect_refusal(const Driven& window, const Box& box, std::string_view focus);
   [[nodiscard]] bool has_ended() const { return has_ended_; }
   ui::Desktop& desktop() { return desktop_; }
 

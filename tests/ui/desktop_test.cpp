@@ -67,13 +67,6 @@ TEST_F(Desktop, OneInstanceThatStartsAnewAfterClosing) {
   EXPECT_TRUE(closed.isNull());
 }
 
-TEST_F(Desktop, ModalAndModeless) {
-  EXPECT_TRUE(choose("mnuohm").window().isModal());
-  close("frmleggediohm");
-  EXPECT_FALSE(choose("mnuvoltwatt").window().isModal());
-  EXPECT_EQ(choose("mnuvoltwatt").window().windowModality(), Qt::NonModal);
-}
-
 TEST_F(Desktop, LoadsWithoutShowing) {
   desktop().place("frmprova", {4100, 3000});
   ASSERT_NE(desktop().find("frmprova"), nullptr);
@@ -85,9 +78,7 @@ TEST_F(Desktop, CompanionsStandAtTheirPlaces) {
   const test::Driven window = open();
   window.click("cmdcompagna");
   EXPECT_EQ(window.window().pos(), QPoint(12, 20));
-  EXPECT_TRUE(is_open("frmvoltwatt"));
-  EXPECT_EQ(driven("frmvoltwatt").window().pos(), QPoint(273, 187));
-  EXPECT_FALSE(driven("frmvoltwatt").window().isModal());
+  expect_companion("frmvoltwatt", {273, 187});
   EXPECT_EQ(boxes(), Boxes{});
 
   window.click("cmdmanca");
