@@ -6,6 +6,7 @@
 #include <QStyle>
 #include <QStyleOption>
 #include <QTransform>
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -296,7 +297,10 @@ void Schematic::place_labels() {
       case Side::centre:
         break;
     }
-    placed.label->move(corner.toPoint());
+    // A value longer than its place is shown whole, wherever there is room.
+    const QPoint furthest{width() - placed.label->width(), height() - placed.label->height()};
+    placed.label->move(std::clamp(qRound(corner.x()), 0, std::max(furthest.x(), 0)),
+                       std::clamp(qRound(corner.y()), 0, std::max(furthest.y(), 0)));
   }
 }
 

