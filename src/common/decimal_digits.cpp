@@ -83,26 +83,22 @@ void DecimalDigits::drop_trailing_zeros() {
   }
 }
 
-char DecimalDigits::digit(int weight) const {
-  const int place = exponent_ - weight;
-  return place >= 0 && place < count_ ? digits_[place] : '0';
+std::string DecimalDigits::digits_between(int highest, int lowest) const {
+  std::string text(static_cast<std::size_t>(highest - lowest + 1), '0');
+  for (char& digit : text) {
+    const int place = exponent_ - highest--;
+    if (place >= 0 && place < count_) {
+      digit = digits_[place];
+    }
+  }
+  return text;
 }
 
 std::string DecimalDigits::integer_part() const {
-  std::string text;
-  for (int weight = std::max(exponent_, 0); weight >= 0; --weight) {
-    text += digit(weight);
-  }
-  return text;
+  return digits_between(std::max(exponent_, 0), 0);
 }
 
-std::string DecimalDigits::fraction(int decimals) const {
-  std::string text;
-  for (int weight = -1; weight >= -decimals; --weight) {
-    text += digit(weight);
-  }
-  return text;
-}
+std::string DecimalDigits::fraction(int decimals) const { return digits_between(-1, -decimals); }
 
 int DecimalDigits::decimals() const { return std::max(count_ - 1 - exponent_, 0); }
 

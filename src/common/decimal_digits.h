@@ -44,8 +44,8 @@ class DecimalDigits {
 
   void read(std::string_view scientific);
   void clear();
-  /// The digit of weight 10^weight.
-  [[nodiscard]] char digit(int weight) const;
+  /// From the digit of weight 10^highest down to that of 10^lowest.
+  [[nodiscard]] std::string digits_between(int highest, int lowest) const;
 
   char digits_[max_precision] = {};
   int count_ = 0;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 #include "common/decimal_digits.h"
 #include "common/regional_settings.h"
@@ -29,7 +30,8 @@ std::string fixed_text(DecimalDigits number, int decimals) {
   number.round_to(decimals);
   std::string text = sign(number) + grouped(number.integer_part());
   if (decimals > 0) {
-    text += regional_settings().decimal_separator + number.fraction(decimals);
+    text += regional_settings().decimal_separator;
+    text += number.fraction(decimals);
   }
   return text;
 }
@@ -52,10 +54,11 @@ std::string pattern_text(DecimalDigits number, std::string_view mask) {
   }
   integer.insert(0, always_before - std::min(always_before, integer.size()), '0');
 
-  std::string text = sign(number) + (grouping ? grouped(integer) : integer);
+  std::string text = sign(number);
+  text += grouping ? grouped(std::move(integer)) : integer;
   if (point != std::string_view::npos) {
-    text += regional_settings().decimal_separator +
-            number.fraction(std::max(always_after, number.decimals()));
+    text += regional_settings().decimal_separator;
+    text += number.fraction(std::max(always_after, number.decimals()));
   }
   return text;
 }
@@ -66,7 +69,8 @@ std::string plain_text(DecimalDigits number) {
   if (number.exponent() >= smallest_exponent && number.exponent() < number.precision()) {
     std::string text = sign(number) + number.integer_part();
     if (number.decimals() > 0) {
-      text += regional_settings().decimal_separator + number.fraction(number.decimals());
+      text += regional_settings().decimal_separator;
+      text += number.fraction(number.decimals());
     }
     return text;
   }

@@ -1,5 +1,6 @@
 #include "ui/icons.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QPainter>
 #include <QPainterPath>
@@ -45,25 +46,21 @@ QIcon program_icon() {
   QIcon icon;
   const QDir sizes{":/icons"};
   for (const QString& file : sizes.entryList()) {
-    icon.addFile(sizes.filePath(file));
+    icon.addPixmap(QPixmap{sizes.filePath(file), "png"});
   }
   return icon;
 }
 
 QIcon open_door_icon() {
-  QIcon icon;
-  for (const int scale : {1, 2, 3}) {
-    QPixmap picture{icon_size * scale, icon_size * scale};
-    picture.fill(Qt::transparent);
-    QPainter painter{&picture};
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(scale, scale);
-    draw_open_door(painter);
-    painter.end();
-    picture.setDevicePixelRatio(scale);
-    icon.addPixmap(picture);
-  }
-  return icon;
+  const double scale = qApp->devicePixelRatio();  // of the finest screen
+  QPixmap picture{QSize{icon_size, icon_size} * scale};
+  picture.fill(Qt::transparent);
+  picture.setDevicePixelRatio(scale);
+  QPainter painter{&picture};
+  painter.setRenderHint(QPainter::Antialiasing);
+  draw_open_door(painter);
+  painter.end();
+  return QIcon{picture};
 }
 
 }  // namespace eterlab::ui

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QWidget>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class QLineEdit;
+
+// What a user does with windows, for measuring, and the same with bare widgets of the toolkit.
+namespace eterlab::bench {
+
+/// Lets the event loop lay out and paint what it was asked for.
+void settle();
+
+/// Opens a window and paints it.
+QWidget& open(std::string_view window);
+/// Closes all that is open.
+void close_all();
+
+/// The widgets of a window, of the same kinds, in one column and as the toolkit makes them.
+enum class Texts : bool { none, same };
+std::unique_ptr<QWidget> bare_window_like(const QWidget& window, Texts texts);
+
+/// A box that computes as the user types.
+struct LiveBox {
+  std::string window;
+  std::string box;
+};
+
+/// Every such box of the program: what is typed there shows results at once.
+std::vector<LiveBox> live_boxes();
+
+/// Opens the window of the box, with its worked example in it, and puts the focus into the box.
+QLineEdit& open_example(const LiveBox& live);
+
+/// A bare box with the focus, alone in a window.
+std::unique_ptr<QLineEdit> open_bare_box();
+
+/// A digit, and the key that takes it back.
+constexpr int strokes_typed = 2;
+void type_and_take_back(QLineEdit& box);
+
+}  // namespace eterlab::bench
