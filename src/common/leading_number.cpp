@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstdint>
 #include <limits>
 #include <string>
 #include <system_error>
@@ -43,7 +44,8 @@ class Reader {
 struct Scanned {
   std::string characters;
   bool has_digits = false;
-  long magnitude = 0;  ///< decimal exponent of the first digit that is not 0, give or take one
+  /// Decimal exponent of the first digit that is not 0, give or take one.
+  std::int64_t magnitude = 0;
 };
 
 Scanned take_digits(Reader& reader) {
@@ -82,8 +84,8 @@ void take_exponent(Reader& reader, Scanned& number) {
   if (digits.empty()) {
     return;
   }
-  constexpr long far_beyond_any_text = std::numeric_limits<long>::max() / 2;
-  long exponent = far_beyond_any_text;
+  constexpr std::int64_t far_beyond_any_text = std::numeric_limits<std::int64_t>::max() / 2;
+  std::int64_t exponent = far_beyond_any_text;
   std::from_chars(digits.data(), digits.data() + digits.size(), exponent);
   exponent = std::min(exponent, far_beyond_any_text);
   number.magnitude += sign == '-' ? -exponent : exponent;
