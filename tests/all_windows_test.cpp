@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
+#include <QFontMetrics>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -90,6 +91,19 @@ TEST_F(AllWindows, AreLaidOutSoundlyInEveryFontSize) {
     }
   }
   QApplication::setFont(usual);
+}
+
+TEST_F(AllWindows, GrowForResultsByWholeLinesOnly) {
+  const int line = QFontMetrics{QApplication::font()}.height();
+  for (const std::string& name : ui::registry::names()) {
+    const QWidget& window = open(name);
+    const QSize opening = window.size();
+    desktop().find(name)->show_example();
+    settle();
+    EXPECT_EQ(window.width(), opening.width()) << name;
+    EXPECT_TRUE(window.height() == opening.height() || window.height() >= opening.height() + line)
+        << name << " grew from " << opening.height() << " to " << window.height();
+  }
 }
 
 TEST_F(AllWindows, BeginInTheirFirstInputAndGoOnInReadingOrder) {

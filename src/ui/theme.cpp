@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QFontMetrics>
+#include <QGroupBox>
+#include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyleOption>
@@ -20,9 +22,59 @@ constexpr double result_scale = 1.08;
 /// Opacity of quiet text out of 255, dark enough for tired eyes on a light window.
 constexpr int quiet_alpha = 200;
 
+/// Opacity of outlines that the style leaves too faint.
+constexpr int outline_alpha = 150;
+constexpr int frame_alpha = 60;
+
+bool is_dark(const QColor& ground) { return ground.lightness() < 128; }
+
+QColor text_colour_at(int alpha, const QPalette& palette) {
+  QColor colour = palette.color(QPalette::WindowText);
+  colour.setAlpha(alpha);
+  return colour;
+}
+
+/// Fusion darkens the colour of the window for outlines: on a dark one they would not be seen.
+template <typename Option>
+Option with_visible_outline(Option option) {
+  if (is_dark(option.palette.color(QPalette::Window))) {
+    option.palette.setColor(QPalette::Window, text_colour_at(outline_alpha, option.palette));
+  }
+  return option;
+}
+
 class Style final : public QProxyStyle {
  public:
   Style() : QProxyStyle{"Fusion"} {}
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    const auto* box = qobject_cast<const QGroupBox*>(widget);
+    if (element == PE_IndicatorRadioButton && button != nullptr) {
+      const QStyleOptionButton visible = with_visible_outline(*button);
+      QProxyStyle::drawPrimitive(element, &visible, painter, widget);
+    } else if (element == PE_FrameLineEdit && frame != nullptr) {
+      const QStyleOptionFrame visible = with_visible_outline(*frame);
+      QProxyStyle::drawPrimitive(element, &visible, painter, widget);
+    } else if (element == PE_FrameGroupBox && box != nullptr) {
+      draw_frame(*option, *painter, *box);
+    } else {
+      QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+  }
+
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                          QPainter* painter, const QWidget* widget) const override {
+    const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    if (control == CC_ComboBox && combo != nullptr) {
+      const QStyleOptionComboBox visible = with_visible_outline(*combo);
+      QProxyStyle::drawComplexControl(control, &visible, painter, widget);
+    } else {
+      QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+  }
 
   int pixelMetric(PixelMetric metric, const QStyleOption* option,
                   const QWidget* widget) const override {
@@ -47,6 +99,22 @@ class Style final : public QProxyStyle {
     return hint == SH_DialogButtonBox_ButtonsHaveIcons
                ? 0
                : QProxyStyle::styleHint(hint, option, widget, data);
+  }
+
+ private:
+  static void draw_frame(const QStyleOption& option, QPainter& painter, const QGroupBox& box) {
+    constexpr double half_a_line = 0.5;
+    constexpr double corner_radius = 3;
+    constexpr int gap = 3;
+    const int title_height = box.title().isEmpty() ? 0 : option.fontMetrics.height();
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(text_colour_at(frame_alpha, option.palette));
+    painter.setBrush(text_colour_at(frame_alpha / 12, option.palette));
+    painter.drawRoundedRect(QRectF{option.rect.adjusted(0, title_height + gap, 0, 0)}.adjusted(
+                                half_a_line, half_a_line, -half_a_line, -half_a_line),
+                            corner_radius, corner_radius);
+    painter.restore();
   }
 };
 
@@ -73,9 +141,7 @@ void apply() {
 }
 
 void set_palette(QPalette palette) {
-  QColor quiet = palette.color(QPalette::WindowText);
-  quiet.setAlpha(quiet_alpha);
-  palette.setColor(QPalette::PlaceholderText, quiet);
+  palette.setColor(QPalette::PlaceholderText, text_colour_at(quiet_alpha, palette));
   QApplication::setPalette(palette);
 }
 
@@ -97,6 +163,17 @@ QPalette dark_palette() {
     palette.setColor(QPalette::Disabled, role, faded);
   }
   return palette;
+}
+
+Colour legible(Colour colour, const QColor& ground) {
+  if (!is_dark(ground)) {
+    return colour;
+  }
+  constexpr float readable_lightness = 0.78F;
+  QColor lighter{colour.red, colour.green, colour.blue};
+  lighter.setHslF(lighter.hslHueF(), lighter.hslSaturationF(),
+                  std::max(lighter.lightnessF(), readable_lightness));
+  return {lighter.red(), lighter.green(), lighter.blue()};
 }
 
 QFont font_of(Label::Role role) {
