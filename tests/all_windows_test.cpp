@@ -20,6 +20,7 @@
 #include "ui/label.h"
 #include "ui/registry.h"
 #include "ui/text.h"
+#include "ui/text_box.h"
 #include "ui/theme.h"
 
 // What must hold for every window, whichever they are.
@@ -131,6 +132,32 @@ TEST_F(AllWindows, BeginInTheirFirstInputAndGoOnInReadingOrder) {
                   qobject_cast<const QComboBox*>(focused) != nullptr);
     }
   }
+}
+
+TEST_F(AllWindows, ComputeByEnterInEveryBoxAndCloseByEscape) {
+  for (const std::string& name : ui::registry::names()) {
+    SCOPED_TRACE(name);
+    QWidget& window = open(name);
+    desktop().find(name)->show_example();
+    const auto buttons = window.findChildren<QPushButton*>();
+    const auto compute = std::ranges::find_if(buttons, &QPushButton::isDefault);
+    int computed = 0;
+    if (compute != buttons.end()) {
+      QObject::connect(*compute, &QPushButton::clicked, &window, [&] { ++computed; });
+      for (QWidget* control : visible_controls(window)) {
+        if (dynamic_cast<ui::TextBox*>(control) != nullptr) {
+          computed = 0;
+          QTest::keyClick(control, Qt::Key_Return);
+          EXPECT_EQ(computed, 1) << name_of(*control);
+        }
+      }
+    }
+    if (name != "FRMETERLAB") {
+      driven(name).press(Qt::Key_Escape);
+      EXPECT_FALSE(is_open(name));
+    }
+  }
+  EXPECT_TRUE(boxes().empty());
 }
 
 TEST_F(AllWindows, NameEveryInputForScreenReaders) {
