@@ -82,6 +82,19 @@ class Style final : public QProxyStyle {
     return metric == PM_MenuBarItemSpacing ? 0 : QProxyStyle::pixelMetric(metric, option, widget);
   }
 
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override {
+    const auto* menu = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (element == CE_MenuBarItem && menu != nullptr) {
+      // Fusion marks an open menu, but not the one that the keyboard has arrived at.
+      QStyleOptionMenuItem marked{*menu};
+      marked.state.setFlag(State_Sunken, marked.state.testFlag(State_Selected));
+      QProxyStyle::drawControl(element, &marked, painter, widget);
+    } else {
+      QProxyStyle::drawControl(element, option, painter, widget);
+    }
+  }
+
   QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                          const QWidget* widget) const override {
     QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
@@ -95,10 +108,14 @@ class Style final : public QProxyStyle {
 
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override {
-    // "OK" needs no picture.
-    return hint == SH_DialogButtonBox_ButtonsHaveIcons
-               ? 0
-               : QProxyStyle::styleHint(hint, option, widget, data);
+    switch (hint) {
+      case SH_DialogButtonBox_ButtonsHaveIcons:
+        return 0;  // "OK" needs no picture
+      case SH_Menu_KeyboardSearch:
+        return 1;  // captions have no underlined letters to type
+      default:
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
   }
 
  private:
@@ -127,6 +144,11 @@ QFont scaled(QFont font, double factor) {
   return font;
 }
 
+QPalette with_quiet_text(QPalette palette) {
+  palette.setColor(QPalette::PlaceholderText, text_colour_at(quiet_alpha, palette));
+  return palette;
+}
+
 }  // namespace
 
 void apply() {
@@ -140,9 +162,14 @@ void apply() {
   QApplication::setWindowIcon(program_icon());
 }
 
-void set_palette(QPalette palette) {
-  palette.setColor(QPalette::PlaceholderText, text_colour_at(quiet_alpha, palette));
-  QApplication::setPalette(palette);
+void set_palette(const QPalette& palette) { QApplication::setPalette(with_quiet_text(palette)); }
+
+QPalette paper_palette() {
+  const QColor ground{0xef, 0xef, 0xef};
+  const QColor accent{0x30, 0x8c, 0xc6};
+  QPalette palette{ground};
+  palette.setColor(QPalette::Highlight, accent);
+  return with_quiet_text(palette);
 }
 
 QPalette dark_palette() {

@@ -89,6 +89,12 @@ TEST_F(FRMETERLAB, MenusOpenWithTheMouseAndTheKeyboard) {
   }
   QTest::keyClick(volt->menu(), Qt::Key_Return);
   EXPECT_TRUE(is_open("frmvolt"));
+  close("frmvolt");
+
+  QTest::keyClick(&window.window(), Qt::Key_F10);
+  QTest::keyClicks(volt->menu(), "volt r");
+  QTest::keyClick(volt->menu(), Qt::Key_Return);
+  EXPECT_TRUE(is_open("frmvolt"));
 }
 
 TEST_F(FRMETERLAB, EveryEntryIsReachedByArrowKeys) {
