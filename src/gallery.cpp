@@ -10,6 +10,7 @@
 
 #include "common/regional_settings.h"
 #include "ui/desktop.h"
+#include "ui/language.h"
 #include "ui/registry.h"
 #include "ui/system_region.h"
 #include "ui/text.h"
@@ -25,9 +26,11 @@ struct Picture {
   QPixmap pixels;
 };
 
-Picture picture_of(ui::Window& window) {
+Picture picture_of(ui::Window& window, bool with_example) {
   window.show();
-  window.show_example();
+  if (with_example) {
+    window.show_example();
+  }
   // A text that grows inside a frame moves first the frame's layout, then the window's.
   QApplication::processEvents();
   QApplication::processEvents();
@@ -72,12 +75,12 @@ QPixmap contact_sheet(const std::vector<Picture>& pictures) {
   return sheet;
 }
 
-int render(const QDir& folder, QTextStream& out) {
+int render(const QDir& folder, bool with_examples, QTextStream& out) {
   folder.mkpath(".");
   ui::Desktop desktop;
   std::vector<Picture> pictures;
   for (const std::string& name : ui::registry::names()) {
-    pictures.push_back(picture_of(*desktop.load(name)));
+    pictures.push_back(picture_of(*desktop.load(name), with_examples));
   }
   const auto save = [&](const QString& name, const QPixmap& pixels) {
     const QString file = folder.filePath(name + ".png");
@@ -104,7 +107,8 @@ int render(const QDir& folder, QTextStream& out) {
 
 }  // namespace eterlab
 
-// Renders every window, with a worked example typed in, to the PNG files of a folder.
+// Renders every window, with a worked example typed in or as it opens, to the PNG files of a
+// folder.
 int main(int argc, char* argv[]) {
   using namespace eterlab;
 
@@ -112,18 +116,21 @@ int main(int argc, char* argv[]) {
   QCommandLineParser parser;
   parser.addHelpOption();
   const QCommandLineOption dark{"dark", "Render in the colours of a dark desktop."};
-  parser.addOption(dark);
+  const QCommandLineOption opening{"opening", "Render windows as they open, without an example."};
+  parser.addOptions({dark, opening});
   parser.addPositionalArgument("folder", "Where the pictures go.");
   parser.process(application);
   if (parser.positionalArguments().size() != 1) {
     parser.showHelp(EXIT_FAILURE);
   }
   ui::theme::apply();
+  ui::speak_italian();
   if (parser.isSet(dark)) {
     ui::theme::set_palette(ui::theme::dark_palette());
   }
   set_regional_settings(ui::regional_settings_of(QLocale{QLocale::Italian, QLocale::Italy}));
 
   QTextStream out{stdout};
-  return render(QDir{parser.positionalArguments().constFirst()}, out);
+  const QDir folder{parser.positionalArguments().constFirst()};
+  return render(folder, !parser.isSet(opening), out);
 }

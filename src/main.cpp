@@ -2,6 +2,7 @@
 
 #include "common/regional_settings.h"
 #include "ui/desktop.h"
+#include "ui/language.h"
 #include "ui/system_region.h"
 #include "ui/theme.h"
 
@@ -11,6 +12,7 @@ int main(int argc, char* argv[]) {
   QApplication application{argc, argv};
   QApplication::setDesktopFileName("eterlab");
   ui::theme::apply();
+  ui::speak_italian();
   set_regional_settings(ui::regional_settings_of(QLocale::system()));
 
   ui::Desktop desktop;

@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
+#include <QFontMetrics>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -19,6 +20,7 @@
 #include "ui/label.h"
 #include "ui/registry.h"
 #include "ui/text.h"
+#include "ui/text_box.h"
 #include "ui/theme.h"
 
 // What must hold for every window, whichever they are.
@@ -92,6 +94,19 @@ TEST_F(AllWindows, AreLaidOutSoundlyInEveryFontSize) {
   QApplication::setFont(usual);
 }
 
+TEST_F(AllWindows, GrowForResultsByWholeLinesOnly) {
+  const int line = QFontMetrics{QApplication::font()}.height();
+  for (const std::string& name : ui::registry::names()) {
+    const QWidget& window = open(name);
+    const QSize opening = window.size();
+    desktop().find(name)->show_example();
+    settle();
+    EXPECT_EQ(window.width(), opening.width()) << name;
+    EXPECT_TRUE(window.height() == opening.height() || window.height() >= opening.height() + line)
+        << name << " grew from " << opening.height() << " to " << window.height();
+  }
+}
+
 TEST_F(AllWindows, BeginInTheirFirstInputAndGoOnInReadingOrder) {
   for (const std::string& name : ui::registry::names()) {
     SCOPED_TRACE(name);
@@ -117,6 +132,32 @@ TEST_F(AllWindows, BeginInTheirFirstInputAndGoOnInReadingOrder) {
                   qobject_cast<const QComboBox*>(focused) != nullptr);
     }
   }
+}
+
+TEST_F(AllWindows, ComputeByEnterInEveryBoxAndCloseByEscape) {
+  for (const std::string& name : ui::registry::names()) {
+    SCOPED_TRACE(name);
+    QWidget& window = open(name);
+    desktop().find(name)->show_example();
+    const auto buttons = window.findChildren<QPushButton*>();
+    const auto compute = std::ranges::find_if(buttons, &QPushButton::isDefault);
+    int computed = 0;
+    if (compute != buttons.end()) {
+      QObject::connect(*compute, &QPushButton::clicked, &window, [&] { ++computed; });
+      for (QWidget* control : visible_controls(window)) {
+        if (dynamic_cast<ui::TextBox*>(control) != nullptr) {
+          computed = 0;
+          QTest::keyClick(control, Qt::Key_Return);
+          EXPECT_EQ(computed, 1) << name_of(*control);
+        }
+      }
+    }
+    if (name != "FRMETERLAB") {
+      driven(name).press(Qt::Key_Escape);
+      EXPECT_FALSE(is_open(name));
+    }
+  }
+  EXPECT_TRUE(boxes().empty());
 }
 
 TEST_F(AllWindows, NameEveryInputForScreenReaders) {

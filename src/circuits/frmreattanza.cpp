@@ -62,10 +62,7 @@ class frmreattanza final : public ui::Window {
 
  private:
   void Option1_click(int index) {
-    for (ui::Option* button : Option1.buttons()) {
-      ui::reset_text_colour(*button);
-    }
-    ui::set_text_colour(Option1[index], chosen_red);
+    Option1.mark(index, chosen_red);
     const Kind& kind = kinds[static_cast<std::size_t>(index)];
     lblfantasma = kind.formula;
     lblinput[0] = "Mhz";

@@ -50,10 +50,7 @@ class frmvolt final : public ui::Window {
   void Option1_click(int index) {
     clear();
     lblinput = Option1[index].caption();
-    for (ui::Option* button : Option1.buttons()) {
-      ui::reset_text_colour(*button);
-    }
-    ui::set_text_colour(Option1[index], chosen_blue);
+    Option1.mark(index, chosen_blue);
   }
 
   // Emptying the box is an edit: where it held a text, the results of 0 volt appear.

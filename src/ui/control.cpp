@@ -1,6 +1,5 @@
 #include "ui/control.h"
 
-#include <QApplication>
 #include <QColor>
 #include <QPalette>
 #include <QSizePolicy>
@@ -31,22 +30,10 @@ void give_up_place_when_hidden(std::initializer_list<QWidget*> parts) {
   }
 }
 
-namespace {
-
-void set_foreground(QWidget& control, const QColor& colour) {
-  QPalette palette = control.palette();
-  palette.setColor(control.foregroundRole(), colour);
-  control.setPalette(palette);
-}
-
-}  // namespace
-
 void set_text_colour(QWidget& control, Colour colour) {
-  set_foreground(control, {colour.red, colour.green, colour.blue});
-}
-
-void reset_text_colour(QWidget& control) {
-  set_foreground(control, QApplication::palette().color(QPalette::ButtonText));
+  QPalette palette = control.palette();
+  palette.setColor(control.foregroundRole(), {colour.red, colour.green, colour.blue});
+  control.setPalette(palette);
 }
 
 Colour text_colour(const QWidget& control) {

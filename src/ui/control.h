@@ -44,8 +44,6 @@ void give_up_place_when_hidden(std::initializer_list<QWidget*> parts);
 inline bool is_shown(const QWidget& control) { return !control.isHidden(); }
 
 void set_text_colour(QWidget& control, Colour colour);
-/// Back to the colour that the system gives the text of buttons.
-void reset_text_colour(QWidget& control);
 Colour text_colour(const QWidget& control);
 
 }  // namespace eterlab::ui

@@ -1,8 +1,14 @@
 #include "ui/label.h"
 
 #include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QFontMetricsF>
+#include <QMenu>
 #include <QMouseEvent>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "ui/desktop.h"
@@ -95,9 +101,16 @@ void Label::set_role(Role role) {
   setTextInteractionFlags(tells_result() ? Qt::TextSelectableByMouse : Qt::NoTextInteraction);
 }
 
+QSize Label::sizeHint() const {
+  QSize size = QLabel::sizeHint();
+  size.setHeight(at_least_a_line(size.height()));
+  return size;
+}
+
 QSize Label::minimumSizeHint() const {
   constexpr int characters_of_a_word = 12;
   QSize size = QLabel::minimumSizeHint();
+  size.setHeight(at_least_a_line(size.height()));
   if (wordWrap()) {
     // A number of three hundred digits is no reason for a window as wide as the screen.
     size.setWidth(std::min(size.width(), theme::characters(characters_of_a_word)));
@@ -108,9 +121,28 @@ QSize Label::minimumSizeHint() const {
 int Label::heightForWidth(int width) const {
   // Wrapping a paragraph is most of the work of a layout, and every layout asks for it repeatedly.
   if (wrapped_.width != width || wrapped_.text != text() || wrapped_.font != font()) {
-    wrapped_ = {text(), font(), width, QLabel::heightForWidth(width)};
+    wrapped_ = {text(), font(), width, at_least_a_line(QLabel::heightForWidth(width))};
   }
   return wrapped_.height;
+}
+
+int Label::at_least_a_line(int height) const {
+  return std::max(height, static_cast<int>(std::ceil(QFontMetricsF{font()}.height())));
+}
+
+void Label::contextMenuEvent(QContextMenuEvent* event) {
+  if (!tells_result() || text().isEmpty()) {
+    QLabel::contextMenuEvent(event);
+    return;
+  }
+  auto* menu = new QMenu{this};
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->addAction("&Copia", this, [this] {
+    QApplication::clipboard()->setText(hasSelectedText() ? selectedText() : text());
+  });
+  menu->addAction("Seleziona tutto", this,
+                  [this] { setSelection(0, static_cast<int>(text().length())); });
+  menu->popup(event->globalPos());
 }
 
 void Label::mouseReleaseEvent(QMouseEvent* event) {

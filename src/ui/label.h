@@ -38,15 +38,20 @@ class Label : public QLabel {
   void set_role(Role role);
   [[nodiscard]] Role role() const { return role_; }
 
+  [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
   [[nodiscard]] int heightForWidth(int width) const override;
 
  protected:
+  /// Of a result: to copy what is selected, or all of it.
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
  private:
   [[nodiscard]] bool tells_result() const;
+  /// Room for what an empty label will say, so that the window keeps its size then.
+  [[nodiscard]] int at_least_a_line(int height) const;
   void announce();
   void name_prompted();
 

@@ -1,10 +1,13 @@
 #include "ui/option_array.h"
 
+#include <QApplication>
+#include <QPalette>
 #include <string>
 #include <utility>
 
 #include "ui/desktop.h"
 #include "ui/text.h"
+#include "ui/theme.h"
 
 namespace eterlab::ui {
 
@@ -42,6 +45,15 @@ std::vector<Option*> OptionArray::buttons() const {
 }
 
 void OptionArray::preset(int index) const { (*this)[index].setChecked(true); }
+
+void OptionArray::mark(int index, Colour colour) const {
+  const QPalette palette = QApplication::palette();
+  const QColor system = palette.color(QPalette::ButtonText);
+  for (const auto& button : buttons_) {
+    set_text_colour(*button, {system.red(), system.green(), system.blue()});
+  }
+  set_text_colour((*this)[index], theme::legible(colour, palette.color(QPalette::Window)));
+}
 
 void OptionArray::on_click(std::function<void(int)> handler) {
   QObject::connect(&group_, &QButtonGroup::idClicked, &group_,

@@ -37,6 +37,10 @@ class OptionArray {
   /// Chooses as the user does.
   void click(int index) const { (*this)[index].click(); }
 
+  /// Writes one caption in a colour, on a dark window a lighter one of the same hue; the others in
+  /// the system's colour of buttons.
+  void mark(int index, Colour colour) const;
+
   /// Every click on a button, also on the one that is chosen already; tells its index.
   void on_click(std::function<void(int)> handler);
 

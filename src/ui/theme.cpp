@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QFontMetrics>
+#include <QGroupBox>
+#include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyleOption>
@@ -20,14 +22,77 @@ constexpr double result_scale = 1.08;
 /// Opacity of quiet text out of 255, dark enough for tired eyes on a light window.
 constexpr int quiet_alpha = 200;
 
+/// Opacity of outlines that the style leaves too faint.
+constexpr int outline_alpha = 150;
+constexpr int frame_alpha = 60;
+
+bool is_dark(const QColor& ground) { return ground.lightness() < 128; }
+
+QColor text_colour_at(int alpha, const QPalette& palette) {
+  QColor colour = palette.color(QPalette::WindowText);
+  colour.setAlpha(alpha);
+  return colour;
+}
+
+/// Fusion darkens the colour of the window for outlines: on a dark one they would not be seen.
+template <typename Option>
+Option with_visible_outline(Option option) {
+  if (is_dark(option.palette.color(QPalette::Window))) {
+    option.palette.setColor(QPalette::Window, text_colour_at(outline_alpha, option.palette));
+  }
+  return option;
+}
+
 class Style final : public QProxyStyle {
  public:
   Style() : QProxyStyle{"Fusion"} {}
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    const auto* box = qobject_cast<const QGroupBox*>(widget);
+    if (element == PE_IndicatorRadioButton && button != nullptr) {
+      const QStyleOptionButton visible = with_visible_outline(*button);
+      QProxyStyle::drawPrimitive(element, &visible, painter, widget);
+    } else if (element == PE_FrameLineEdit && frame != nullptr) {
+      const QStyleOptionFrame visible = with_visible_outline(*frame);
+      QProxyStyle::drawPrimitive(element, &visible, painter, widget);
+    } else if (element == PE_FrameGroupBox && box != nullptr) {
+      draw_frame(*option, *painter, *box);
+    } else {
+      QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+  }
+
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                          QPainter* painter, const QWidget* widget) const override {
+    const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    if (control == CC_ComboBox && combo != nullptr) {
+      const QStyleOptionComboBox visible = with_visible_outline(*combo);
+      QProxyStyle::drawComplexControl(control, &visible, painter, widget);
+    } else {
+      QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+  }
 
   int pixelMetric(PixelMetric metric, const QStyleOption* option,
                   const QWidget* widget) const override {
     // The main window's ten menus stand in one row.
     return metric == PM_MenuBarItemSpacing ? 0 : QProxyStyle::pixelMetric(metric, option, widget);
+  }
+
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override {
+    const auto* menu = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (element == CE_MenuBarItem && menu != nullptr) {
+      // Fusion marks an open menu, but not the one that the keyboard has arrived at.
+      QStyleOptionMenuItem marked{*menu};
+      marked.state.setFlag(State_Sunken, marked.state.testFlag(State_Selected));
+      QProxyStyle::drawControl(element, &marked, painter, widget);
+    } else {
+      QProxyStyle::drawControl(element, option, painter, widget);
+    }
   }
 
   QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
@@ -43,10 +108,30 @@ class Style final : public QProxyStyle {
 
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override {
-    // "OK" needs no picture.
-    return hint == SH_DialogButtonBox_ButtonsHaveIcons
-               ? 0
-               : QProxyStyle::styleHint(hint, option, widget, data);
+    switch (hint) {
+      case SH_DialogButtonBox_ButtonsHaveIcons:
+        return 0;  // "OK" needs no picture
+      case SH_Menu_KeyboardSearch:
+        return 1;  // captions have no underlined letters to type
+      default:
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+  }
+
+ private:
+  static void draw_frame(const QStyleOption& option, QPainter& painter, const QGroupBox& box) {
+    constexpr double half_a_line = 0.5;
+    constexpr double corner_radius = 3;
+    constexpr int gap = 3;
+    const int title_height = box.title().isEmpty() ? 0 : option.fontMetrics.height();
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(text_colour_at(frame_alpha, option.palette));
+    painter.setBrush(text_colour_at(frame_alpha / 12, option.palette));
+    painter.drawRoundedRect(QRectF{option.rect.adjusted(0, title_height + gap, 0, 0)}.adjusted(
+                                half_a_line, half_a_line, -half_a_line, -half_a_line),
+                            corner_radius, corner_radius);
+    painter.restore();
   }
 };
 
@@ -57,6 +142,11 @@ QFont scaled(QFont font, double factor) {
     font.setPixelSize(qRound(font.pixelSize() * factor));
   }
   return font;
+}
+
+QPalette with_quiet_text(QPalette palette) {
+  palette.setColor(QPalette::PlaceholderText, text_colour_at(quiet_alpha, palette));
+  return palette;
 }
 
 }  // namespace
@@ -72,11 +162,14 @@ void apply() {
   QApplication::setWindowIcon(program_icon());
 }
 
-void set_palette(QPalette palette) {
-  QColor quiet = palette.color(QPalette::WindowText);
-  quiet.setAlpha(quiet_alpha);
-  palette.setColor(QPalette::PlaceholderText, quiet);
-  QApplication::setPalette(palette);
+void set_palette(const QPalette& palette) { QApplication::setPalette(with_quiet_text(palette)); }
+
+QPalette paper_palette() {
+  const QColor ground{0xef, 0xef, 0xef};
+  const QColor accent{0x30, 0x8c, 0xc6};
+  QPalette palette{ground};
+  palette.setColor(QPalette::Highlight, accent);
+  return with_quiet_text(palette);
 }
 
 QPalette dark_palette() {
@@ -97,6 +190,17 @@ QPalette dark_palette() {
     palette.setColor(QPalette::Disabled, role, faded);
   }
   return palette;
+}
+
+Colour legible(Colour colour, const QColor& ground) {
+  if (!is_dark(ground)) {
+    return colour;
+  }
+  constexpr float readable_lightness = 0.78F;
+  QColor lighter{colour.red, colour.green, colour.blue};
+  lighter.setHslF(lighter.hslHueF(), lighter.hslSaturationF(),
+                  std::max(lighter.lightnessF(), readable_lightness));
+  return {lighter.red(), lighter.green(), lighter.blue()};
 }
 
 QFont font_of(Label::Role role) {

@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QPalette>
 
+#include "ui/control.h"
 #include "ui/label.h"
 
 // The one place that says how the program looks: style, type scale, distances.
@@ -14,10 +15,16 @@ namespace eterlab::ui::theme {
 void apply();
 
 /// Gives the whole program these colours, and quiet text its own out of them.
-void set_palette(QPalette palette);
+void set_palette(const QPalette& palette);
 
 /// Light letters on a dark ground, as a dark desktop gives them; for the gallery and for tests.
 QPalette dark_palette();
+
+/// Dark letters on a light ground, whatever the desktop's colours are.
+QPalette paper_palette();
+
+/// A colour of the design as it can be read on a ground: itself on a light one, lighter on a dark.
+Colour legible(Colour colour, const QColor& ground);
 
 QFont font_of(Label::Role role);
 

@@ -31,7 +31,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Toroids{"mnusintoniatoro", {"Frame2"}},
                     Toroids{"mnuadattatoro",
                             {"Label2", "txtfrequenza", "Label3", "txtimpantenna", "Label4",
-                             "txtimpcavo", "cmdcalcola", "lblpunto"}}));
+                             "txtimpcavo", "cmdcalcola", "lblpunto"}}),
+    [](const auto& toroids) { return std::string{toroids.param.menu_entry}; });
 
 TEST_P(ToroidWindow, AsksOnceACoreIsChosenAndTellsAboutIt) {
   const auto& list = dynamic_cast<QComboBox&>(window.control("cmbnucleo"));

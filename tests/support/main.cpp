@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "ui/language.h"
 #include "ui/theme.h"
 
 namespace {
@@ -31,6 +32,7 @@ int main(int argc, char* argv[]) {
   QApplication application{argc, argv};
   QApplication::setQuitOnLastWindowClosed(false);
   eterlab::ui::theme::apply();
+  eterlab::ui::speak_italian();
   ::testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();
 }

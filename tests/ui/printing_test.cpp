@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 
 #include "support/window_test.h"
+#include "ui/theme.h"
 
 namespace eterlab {
 namespace {
@@ -48,6 +49,21 @@ TEST_F(Printing, OnePageWithTheLettersAsLetters) {
     const QByteArray pixels = pdf.mid(at + width.size()).split('\n').first();
     EXPECT_LT(pixels.toInt(), window.window().width() / 2);
   }
+}
+
+TEST_F(Printing, OfADarkDesktopIsInTheColoursOfPaper) {
+  const QPalette usual = QApplication::palette();
+  print_to(file);
+  const auto page_of_desktop_in = [&](const QPalette& colours) {
+    ui::theme::set_palette(colours);
+    close("frmpassabasso2");
+    choose("mnupassabanda2").click("cmdstampa");
+    const QByteArray pdf = printed();  // its head tells the time
+    return pdf.mid(pdf.indexOf("/Type /Page\n"));
+  };
+  const QByteArray on_paper = page_of_desktop_in(ui::theme::paper_palette());
+  EXPECT_TRUE(page_of_desktop_in(ui::theme::dark_palette()) == on_paper);
+  ui::theme::set_palette(usual);
 }
 
 TEST_F(Printing, WithoutAPrinterItSaysSoAndGoesOn) {

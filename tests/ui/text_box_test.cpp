@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QKeyEvent>
+#include <QMenu>
 #include <QTest>
+#include <memory>
 
 namespace eterlab {
 namespace {
@@ -45,6 +47,12 @@ TEST(TextBox, KeypadDecimalReplacesTheSelectionAndCanBeUndone) {
   EXPECT_EQ(box.content(), ".");
   box.undo();
   EXPECT_EQ(box.content(), "12");
+}
+
+TEST(TextBox, ContextMenuIsItalian) {
+  ui::TextBox box{nullptr, "txt"};
+  const std::unique_ptr<QMenu> menu{box.createStandardContextMenu()};
+  EXPECT_TRUE(menu->actions().constFirst()->text().startsWith("Ann&ulla"));
 }
 
 }  // namespace
