@@ -11,7 +11,8 @@ set(CMAKE_RC_COMPILER ${target}-windres)
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static -s")
 
 # Programs are this machine's; libraries, headers and packages are not.
-set(CMAKE_FIND_ROOT_PATH ${CMAKE_CURRENT_LIST_DIR}/../../build/windows/toolkit /usr/${target})
+cmake_path(SET toolkit NORMALIZE ${CMAKE_CURRENT_LIST_DIR}/../../build/windows/toolkit)
+set(CMAKE_FIND_ROOT_PATH ${toolkit} /usr/${target})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
