@@ -74,6 +74,15 @@ void Label::showEvent(QShowEvent* event) {
   }
 }
 
+void Label::resizeEvent(QResizeEvent* event) {
+  QLabel::resizeEvent(event);
+  if (tells_result()) {
+    // A text that can be selected is laid out for its new size when its height is asked for. The
+    // toolkit would do it while painting, and then paint again all that is under the text.
+    QLabel::heightForWidth(width());
+  }
+}
+
 void Label::on_click(Handler handler) {
   click_handler_ = std::move(handler);
   setCursor(Qt::PointingHandCursor);
