@@ -104,22 +104,33 @@ void Label::set_role(Role role) {
   setTextInteractionFlags(tells_result() ? Qt::TextSelectableByMouse : Qt::NoTextInteraction);
 }
 
+QSize Label::sizeHint() const {
+  return wordWrap() ? QLabel::sizeHint() : measured(QWIDGETSIZE_MAX).expandedTo(minimumSize());
+}
+
 QSize Label::minimumSizeHint() const {
+  if (!wordWrap()) {
+    return sizeHint();
+  }
+  // A number of three hundred digits is no reason for a window as wide as the screen.
   constexpr int characters_of_a_word = 12;
   QSize size = QLabel::minimumSizeHint();
-  if (wordWrap()) {
-    // A number of three hundred digits is no reason for a window as wide as the screen.
-    size.setWidth(std::min(size.width(), theme::characters(characters_of_a_word)));
-  }
+  size.setWidth(std::min(size.width(), theme::characters(characters_of_a_word)));
   return size;
 }
 
-int Label::heightForWidth(int width) const {
-  // Wrapping a paragraph is most of the work of a layout, and every layout asks for it repeatedly.
-  if (wrapped_.width != width || wrapped_.text != text() || wrapped_.font != font()) {
-    wrapped_ = {text(), font(), width, QLabel::heightForWidth(width)};
+int Label::heightForWidth(int width) const { return measured(width).height(); }
+
+QSize Label::measured(int width) const {
+  // To measure texts is most of the work of a layout, and every layout asks for it repeatedly.
+  if (measured_.width != width || measured_.text != text() || measured_.font != font()) {
+    ensurePolished();
+    const QSize size =
+        wordWrap() ? QSize{width, QLabel::heightForWidth(width)}
+                   : fontMetrics().boundingRect({0, 0, width, width}, Qt::AlignLeft, text()).size();
+    measured_ = {text(), font(), width, size};
   }
-  return wrapped_.height;
+  return measured_.size;
 }
 
 void Label::mouseReleaseEvent(QMouseEvent* event) {

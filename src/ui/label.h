@@ -38,6 +38,7 @@ class Label : public QLabel {
   void set_role(Role role);
   [[nodiscard]] Role role() const { return role_; }
 
+  [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
   [[nodiscard]] int heightForWidth(int width) const override;
 
@@ -51,16 +52,17 @@ class Label : public QLabel {
   void announce();
   void name_prompted();
 
-  /// The height that a text takes when it is wrapped.
-  struct Wrapped {
+  /// The room that the text takes within this width, which limits only what is wrapped.
+  [[nodiscard]] QSize measured(int width) const;
+  struct Measured {
     QString text;
     QFont font;
     int width = -1;
-    int height = -1;
+    QSize size;
   };
 
   Role role_ = Role::text;
-  mutable Wrapped wrapped_;
+  mutable Measured measured_;
   QWidget* prompted_ = nullptr;
   QString unprompted_name_;
   /// Written while it was hidden.
