@@ -35,7 +35,8 @@ TEST_F(frmdipoli, ArmsOfAPositiveFrequencyInSinglePrecision) {
   for (const char* none : {"0", "-3", "", ",5"}) {
     expect_edits_leave("||", "14.2", none);
   }
-  expect_end("1E39");  // beyond single precision
+  expect_end("1E39");  // beyond single precision, and then the inverted V's arm
+  expect_end("1E-37");
 }
 
 using frmdipoloripiegato = FormTest;

@@ -27,8 +27,7 @@ TEST_F(frmleggediohm, EachModeNamesAndComputes) {
   }
   EXPECT_EQ(window.text("lblformule txtinput1"), "V = radice(R x W)   I = radice( W : R)|50");
   window.click("Option1_0");
-  const char* const names = "VOLT :|AMPER :|OHM :|WATT :||";
-  expect_edits_leave(names, "12|0.5");
+  expect_edits_leave("VOLT :|AMPER :|OHM :|WATT :||", "12|0.5");
   expect_refusal("-2|3", "txtinput1");
   expect("2469|2", "VOLT :|AMPER :|OHM :|WATT :|1.234,5|4.938,");
   expect("-2|-3", "VOLT :|AMPER :|OHM :|WATT :|0,667|6,");  // only the product is checked
@@ -40,17 +39,14 @@ using frmreattanza = FormTest;
 TEST_F(frmreattanza, EachKindNamesComputesAndIsRed) {
   use("mnureattanza", "txtinput_0 txtinput_1",
       "lblfantasma lblinput_0 lblinput_1 lblinput_2 lblinput_3");
-  const auto expect_red = [this](const char* option, const char* other) {
-    EXPECT_EQ(window.colour(option), "#ff0000");
-    EXPECT_EQ(window.colour(other), "#000000");
-  };
   expect("7|100", "||||227,143");  // without a kind it is a capacitor
   window.click("Option1_0");
-  expect_red("Option1_0", "Option1_1");
+  EXPECT_EQ(window.colour("Option1_0"), "#ff0000");
   expect("-7|-10", "XL in Ohm = 6,28 x (Mhz x induttanza in µH)|Mhz|microH|XL Ohm|439,600");
   expect_refusal("-7|10", "txtinput_0");
   window.click("Option1_1");
-  expect_red("Option1_1", "Option1_0");
+  EXPECT_EQ(window.colour("Option1_0"), "#000000");
+  EXPECT_EQ(window.colour("Option1_1"), "#ff0000");
   expect("0.1|1000", "XC in Ohm = 159.000 : (Mhz x pF)|Mhz|picoF|XC Ohm|1.590,000");
   expect_edits_leave("XC in Ohm = 159.000 : (Mhz x pF)|Mhz|picoF|XC Ohm|", "1|1");
 }

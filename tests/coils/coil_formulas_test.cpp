@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <map>
 #include <vector>
@@ -8,7 +10,6 @@
 #include "coils/single_layer_coil.h"
 #include "coils/toroid_cores.h"
 #include "common/regional_settings.h"
-#include "support/agree.h"
 
 // What the windows leave open: the catalogue of cores, digits that they do not show, ties, limits
 // and faults. Expected values: the formulas with 50 decimal digits (Python's decimal), rounded half
@@ -18,17 +19,19 @@ namespace eterlab::coils {
 namespace {
 
 TEST(SingleLayerCoil, RoundsItsTurnsFirst) {
+  using Numbers = std::vector<double>;  // turns, uH, widest wire in mm, its length in cm
   const auto computed = [](const SingleLayerCoil& coil) {
-    return std::vector{coil.turns, coil.inductance_uh, coil.widest_wire_mm, coil.wire_length_cm};
+    return Numbers{coil.turns.value(), coil.inductance_uh.value(), coil.widest_wire_mm.value(),
+                   coil.wire_length_cm.value()};
   };
   // 1.54 turns are 1.5 for the wire too: unrounded ones would give 2.6 mm.
-  EXPECT_TRUE(test::agree(computed(coil_of_inductance({8, 4}, 0.02)), {1.5, 0.02, 2.67, 3}));
+  EXPECT_EQ(computed(coil_of_inductance({8, 4}, 0.02)), (Numbers{1.5, 0.02, 2.67, 3}));
   // 1.679 turns, likewise: 263 cm unrounded.
-  EXPECT_TRUE(test::agree(computed(coil_of_inductance({500, 10}, 3)), {1.7, 3, 5.88, 266}));
+  EXPECT_EQ(computed(coil_of_inductance({500, 10}, 3)), (Numbers{1.7, 3, 5.88, 266}));
   // Length and inductance negative: the root is of a positive number.
-  EXPECT_TRUE(test::agree(computed(coil_of_inductance({20, -40}, -10)), {27.8, -10, -1.44, 174}));
+  EXPECT_EQ(computed(coil_of_inductance({20, -40}, -10)), (Numbers{27.8, -10, -1.44, 174}));
   // Whole centimetres are cut downwards, also below zero: -62.8.
-  EXPECT_TRUE(test::agree(computed(coil_of_turns({-20, -40}, 10)), {10, -0.82, -4, -63}));
+  EXPECT_EQ(computed(coil_of_turns({-20, -40}, 10)), (Numbers{10, -0.82, -4, -63}));
   EXPECT_THROW(coil_of_inductance({-20, -40}, 10), ArithmeticFault);  // the square would be -1225
   EXPECT_THROW(coil_of_turns({1, -0.45}, -1), ArithmeticFault);
 }

@@ -1,45 +1,22 @@
 #include <gtest/gtest.h>
 
-#include "units/decibel.h"
 #include "units/decibel_microvolt.h"
 #include "units/locator.h"
-#include "units/mils.h"
 #include "units/temperature.h"
-#include "units/wire_gauge.h"
 
 // What the windows leave open: digits that they do not show, limits and faults.
 
 namespace eterlab::units {
 namespace {
 
-// Logarithms and powers of ten with 40 decimal digits.
-TEST(Decibels, BothWays) {
-  EXPECT_DOUBLE_EQ(from_voltages(7, 2).decibels.value(), 10.88136088700551);
-  EXPECT_FALSE(from_voltages(7, 2).is_gain);
-  EXPECT_DOUBLE_EQ(from_powers(50, 0.3).decibels.value(), 22.21848749616356);
-  const SignalRatios ratios = ratios_from_decibels(37.5);
-  EXPECT_EQ(ratios.voltage, 74.989);  // it alone is rounded
-  EXPECT_DOUBLE_EQ(ratios.power.value(), 5623.413251903491);
-  EXPECT_EQ(level_dbuv(123.4).value(), 41.83F);
-  EXPECT_THROW(level_dbuv(0), ArithmeticFault);
+TEST(DecibelMicrovolt, InHundredths) {
   EXPECT_EQ(voltage_uv(0.1).value(), 1.01F);
-  EXPECT_EQ(voltage_uv(119.99).value(), 998849.37F);
-}
-
-TEST(Mils, FactorsAreNotQuiteReciprocal) {
-  EXPECT_EQ(mils_from_mm(1), 39.3700787);
-  EXPECT_DOUBLE_EQ(metric_from_mils(39.3700787).mm.value(), 0.99999999898);
+  EXPECT_THROW(level_dbuv(0), ArithmeticFault);
 }
 
 TEST(Temperature, KelvinInSinglePrecision) {
   EXPECT_EQ(kelvin_from_celsius(0.126).value(), 273.13F);
   EXPECT_EQ(kelvin_from_celsius(1234567.89).value(), 1234841.0F);  // all the digits that it holds
-}
-
-// Computed with fifty decimals in Python.
-TEST(WireGauge, Diameter) {
-  EXPECT_DOUBLE_EQ(awg_diameter_mm(-3).value(), 11.684);
-  EXPECT_DOUBLE_EQ(awg_diameter_mm(80).value(), 0.00077312234123378836);
 }
 
 // Places computed apart from this code, in double precision with the latitude and its field

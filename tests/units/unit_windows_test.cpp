@@ -11,14 +11,12 @@ using frmawg = FormTest;
 // Diameters were computed with fifty decimals in Python and rounded.
 TEST_F(frmawg, GaugesUpToEighty) {
   use("mnuawg", "txtawg", "txtawg lbld");
-  const char* const table[][2] = {{"24", "24|0,511"},     {"40", "40|0,080"}, {"-", "-|8,251"},
-                                  {"12,5", "12,5|2,053"}, {"81", "80|0,001"}, {"80.5", "80|0,001"}};
   EXPECT_FALSE(window.shows("lbl2"));
-  for (const auto& [typed, box_and_mm] : table) {
-    std::string results = std::string{box_and_mm} + " MILLIMETRI";
-    results.insert(results.find('|') + 1, "IL DIAMETRO DEL FILO CORRISPONDE A ");
-    expect(typed, results);
-  }
+  expect("24", "24|IL DIAMETRO DEL FILO CORRISPONDE A 0,511 MILLIMETRI");
+  expect("-3", "-3|IL DIAMETRO DEL FILO CORRISPONDE A 11,684 MILLIMETRI");
+  expect("-", "-|IL DIAMETRO DEL FILO CORRISPONDE A 8,251 MILLIMETRI");
+  expect("12,5", "12,5|IL DIAMETRO DEL FILO CORRISPONDE A 2,053 MILLIMETRI");
+  expect("80.5", "80|IL DIAMETRO DEL FILO CORRISPONDE A 0,001 MILLIMETRI");
   EXPECT_TRUE(window.shows("lbl2"));
 }
 
@@ -168,19 +166,12 @@ TEST_F(LocatorWindows, CentresOfSubsquares) {
 }
 
 TEST_F(LocatorWindows, LocatorOfCoordinates) {
-  choose("mnucoordinate");
+  use("mnucoordinate", "txtlongr txtlonpr txtlonse txtlatgr txtlatpr txtlatse", "lblwwl");
   window = driven("frmwwl");
-  const char* const table[][2] = {
-      {"|||||", "JJ00AA"},
-      {"12|28|59|41|53|24", "JN61FV"},
-      // Minutes are added to the degrees, also to negative ones: 8.5 degrees west.
-      {"-9|30||45||", "IN55RA"},
-  };
-  for (const auto& [parts, locator] : table) {
-    window.type("txtlongr txtlonpr txtlonse txtlatgr txtlatpr txtlatse", parts);
-    window.press(Qt::Key_Enter);
-    EXPECT_EQ(window.text("lblwwl"), std::string{"il WORLD WIDE LOCATOR è :  "} + locator);
-  }
+  expect("|||||", "il WORLD WIDE LOCATOR è :  JJ00AA");
+  expect("12|28|59|41|53|24", "il WORLD WIDE LOCATOR è :  JN61FV");
+  // Minutes are added to the degrees, also to negative ones: 8.5 degrees west.
+  expect("-9|30||45||", "il WORLD WIDE LOCATOR è :  IN55RA");
 }
 
 TEST_F(LocatorWindows, StandInTheMiddleOfTheScreenAndComeForwardTogether) {
