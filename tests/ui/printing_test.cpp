@@ -9,16 +9,13 @@
 #include "support/window_test.h"
 #include "ui/theme.h"
 
-namespace eterlab {
+namespace eterlab::test {
 namespace {
 
-using Boxes = std::vector<test::Box>;
-
-class Printing : public test::WindowTest {
+class Printing : public WindowTest {
  protected:
-  test::Driven window = choose("mnupassabanda2");
+  Driven window = choose("mnupassabanda2");
   QTemporaryDir folder;
-  QString file = folder.filePath("scheda.pdf");
 
   /// Printers in this test write to that file.
   static void print_to(const QString& path) {
@@ -29,17 +26,15 @@ class Printing : public test::WindowTest {
       return printer;
     });
   }
-  [[nodiscard]] QByteArray printed() const {
-    QFile pdf{file};
-    return pdf.open(QIODevice::ReadOnly) ? pdf.readAll() : QByteArray{};
-  }
 };
 
 TEST_F(Printing, OnePageWithTheLettersAsLetters) {
-  print_to(file);
+  QFile file{folder.filePath("scheda.pdf")};
+  print_to(file.fileName());
   window.click("cmdstampa");
   EXPECT_EQ(boxes(), Boxes{});
-  const QByteArray pdf = printed();
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QByteArray pdf = file.readAll();
   EXPECT_TRUE(pdf.startsWith("%PDF"));
   EXPECT_EQ(pdf.count("/Type /Page\n"), 1);
   EXPECT_GT(pdf.count("/Type /Font\n"), 0);
@@ -69,16 +64,16 @@ TEST_F(Printing, OfADarkDesktopIsInTheColoursOfPaper) {
 TEST_F(Printing, WithoutAPrinterItSaysSoAndGoesOn) {
   window.type("txtf", "7");
   window.click("cmdstampa");
-  EXPECT_EQ(boxes(), Boxes{test::error("NESSUNA STAMPANTE DISPONIBILE")});
+  EXPECT_EQ(boxes(), Boxes{error("NESSUNA STAMPANTE DISPONIBILE")});
   EXPECT_EQ(window.text("txtf"), "7");
 }
 
 TEST_F(Printing, APrinterThatDoesNotTakeThePage) {
   print_to(folder.filePath("missing/scheda.pdf"));
-  const test::Driven band_pass = choose("mnupbk");
+  const Driven band_pass = choose("mnupbk");
   EXPECT_NONFATAL_FAILURE(band_pass.click("Command1"), "QPainter::begin");  // the toolkit grumbles
-  EXPECT_EQ(boxes(), Boxes{test::error("STAMPA NON RIUSCITA")});
+  EXPECT_EQ(boxes(), Boxes{error("STAMPA NON RIUSCITA")});
 }
 
 }  // namespace
-}  // namespace eterlab
+}  // namespace eterlab::test
