@@ -16,6 +16,7 @@ class Printing : public WindowTest {
  protected:
   Driven window = choose("mnupassabanda2");
   QTemporaryDir folder;
+  QString file = folder.filePath("scheda.pdf");
 
   /// Printers in this test write to that file.
   static void print_to(const QString& path) {
@@ -26,15 +27,17 @@ class Printing : public WindowTest {
       return printer;
     });
   }
+  [[nodiscard]] QByteArray printed() const {
+    QFile pdf{file};
+    return pdf.open(QIODevice::ReadOnly) ? pdf.readAll() : QByteArray{};
+  }
 };
 
 TEST_F(Printing, OnePageWithTheLettersAsLetters) {
-  QFile file{folder.filePath("scheda.pdf")};
-  print_to(file.fileName());
+  print_to(file);
   window.click("cmdstampa");
   EXPECT_EQ(boxes(), Boxes{});
-  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  const QByteArray pdf = file.readAll();
+  const QByteArray pdf = printed();
   EXPECT_TRUE(pdf.startsWith("%PDF"));
   EXPECT_EQ(pdf.count("/Type /Page\n"), 1);
   EXPECT_GT(pdf.count("/Type /Font\n"), 0);
