@@ -1,14 +1,27 @@
 #include "circuits/l_pad_window.h"
 
+#include "circuits/resistive_pads.h"
 #include "common/number_text.h"
 
 namespace eterlab::circuits {
 
 LPadWindow::LPadWindow(std::string_view name, std::string_view title) : Window{name, title} {
+  constexpr double top = 6;
+  constexpr double middle = (top + bottom) / 2;
+  constexpr double edge = 0.65;  // of a resistor
   schematic.terminal({left, top})
       .terminal({left, bottom})
       .terminal({right, top})
       .terminal({right, bottom})
+      .resistor({left, top}, {shunt, top})
+      .wire({{shunt, top}, {right, top}})
+      .resistor({shunt, top}, {shunt, bottom})
+      .junction({shunt, top})
+      .junction({shunt, bottom})
+      .mark({series, top - 1.9}, "R1")
+      .mark({shunt - 2.2, middle}, "R2")
+      .label(lblR1, {series, top + edge}, ui::Schematic::Side::below)
+      .label(lblR2, {shunt + edge, middle}, ui::Schematic::Side::right)
       .label(Label2, {left, 1.5})
       .label(Label4, {right, 1.5});
   for (ui::Label* end : {&Label2, &Label4}) {
@@ -35,7 +48,8 @@ void LPadWindow::cmdcalcola_click() {
     return;
   }
   const MinimumLossPad pad = minimum_loss_pad(higher_ohm, lower_ohm);
-  write_resistors(pad);
+  write_series_resistors(pad.series_ohm);
+  lblR2 = fixed(pad.shunt_ohm, 1);
   lblperdita = "L'ATTENUAZIONE E' " + plain(pad.loss_db) + " dB";
 }
 

@@ -2,27 +2,27 @@
 
 #include <string_view>
 
-#include "circuits/resistive_pads.h"
+#include "common/arithmetic.h"
 #include "ui/ui.h"
 
 namespace eterlab::circuits {
 
-/// The two windows of minimum-loss pads ask, check and answer alike; each brings its own schematic
-/// and layout.
+/// The two windows of minimum-loss pads ask, check and answer alike. Each completes the schematic
+/// by its lower line and brings its own layout.
 class LPadWindow : public ui::Window {
  public:
   void show_example() override;
 
  protected:
-  // The terminals of both ends, on the drawing of either window.
   static constexpr double left = 12;
   static constexpr double right = 45;
-  static constexpr double top = 6;
   static constexpr double bottom = 16;
+  static constexpr double shunt = 35;
+  static constexpr double series = (left + shunt) / 2;
 
   LPadWindow(std::string_view name, std::string_view title);
 
-  virtual void write_resistors(const MinimumLossPad& pad) = 0;
+  virtual void write_series_resistors(Real series_ohm) = 0;
 
   ui::Label lblZI{this, "lblZI", "IMPEDENZA D' INGRESSO in OHM"};
   ui::TextBox txtRH{this, "txtRH", ui::tooltip("inserire i dati")};
@@ -31,6 +31,8 @@ class LPadWindow : public ui::Window {
   ui::Schematic schematic{this, "schematic", 57, 19};
   ui::Label Label2{schematic, "Label2", "lato impedenza maggiore"};
   ui::Label Label4{schematic, "Label4", "lato impedenza minore"};
+  ui::Label lblR1{schematic, "lblR1"};
+  ui::Label lblR2{schematic, "lblR2"};
   ui::Result lblperdita{this, "lblperdita"};
   ui::Note Label3{this, "Label3",
                   "L'IMPEDENZA D' INGRESSO DEVE ESSERE MAGGIORE DELL'IMPEDENZA D' USCITA"};

@@ -90,12 +90,6 @@ void Window::centre_across_screen(int top_twips) {
   move(whole.left() + (whole.width() - frameGeometry().width()) / 2, pixels_from_twips(top_twips));
 }
 
-void Window::centre_on_screen() {
-  const QRect whole = screen()->geometry();
-  move(whole.left() + (whole.width() - frameGeometry().width()) / 2,
-       whole.top() + (whole.height() - frameGeometry().height()) / 2);
-}
-
 void Window::blank_on_change(std::initializer_list<TextBox*> boxes,
                              std::initializer_list<Label*> results) {
   for (TextBox* box : boxes) {

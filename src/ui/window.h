@@ -61,8 +61,6 @@ class Window : public QWidget {
   void move_to(TwipsPoint corner) { move(corner.pixels()); }
   /// In the middle of the screen's width, so far from its top.
   void centre_across_screen(int top_twips);
-  /// In the middle of the screen.
-  void centre_on_screen();
 
   /// Any change of these boxes empties these labels, so that no result stands beside inputs that
   /// did not produce it.

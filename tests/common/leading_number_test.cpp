@@ -7,50 +7,21 @@
 namespace eterlab {
 namespace {
 
-struct Reading {
-  const char* text;
-  double value;
-};
-
-TEST(LeadingNumber, ReadsWhatATextBeginsWith) {
-  const Reading readings[] = {
-      {"12", 12},
-      {"-1.5", -1.5},
-      {"+7", 7},
-      {".5", 0.5},
-      {"5.", 5},
-      {"-.5e1", -5},
-      {"3,5", 3},
-      {"1.2.3", 1.2},
-      {"1..2", 1},
-      {"12abc", 12},
-      {"1 5", 15},
-      {"2 . 5", 2.5},
-      {"\t- 1\n2", -12},
-      {"1e3", 1000},
-      {"1E+2", 100},
-      {"1d-2", 0.01},
-      {"1D2", 100},
-      {"1 e 2", 100},
-      {"12e", 12},
-      {"12e+", 12},
-      {"12ex", 12},
-      {"1e2.5", 100},
-      {"0.1", 0.1},
-      {"1e-400", 0},
-      {"1e-99999999999999999999", 0},
-      {"0e99999999999999999999", 0},
-  };
-  for (const Reading& reading : readings) {
-    EXPECT_EQ(leading_number(reading.text), Real{reading.value}) << reading.text;
+void expect_number(double value, std::initializer_list<const char*> texts) {
+  for (const char* text : texts) {
+    EXPECT_EQ(leading_number(text), Real{value}) << text;
   }
 }
 
-TEST(LeadingNumber, IsZeroWithoutANumber) {
-  for (const char* text :
-       {"", " ", "abc", ",5", "-", "+", ".", "-.", ".e5", "e5", "--1", "\u00a05"}) {
-    EXPECT_EQ(leading_number(text), 0) << text;
-  }
+TEST(LeadingNumber, ReadsWhatATextBeginsWith) {
+  expect_number(12, {"12", "12abc", "12e", "12e+", "12ex", "+12", "12."});
+  expect_number(-12, {"\t- 1\n2", "-12", "-.12e2"});
+  expect_number(1.2, {"1.2.3", "1 . 2"});
+  expect_number(1, {"1..2", "1,2"});
+  expect_number(100, {"1E+2", "1D2", "1 e 2", "1e2.5"});
+  expect_number(0.1, {".1", "0.1", "1d-1"});
+  expect_number(0, {"1e-400", "1e-99999999999999999999", "0e99999999999999999999"});
+  expect_number(0, {"", " ", "abc", ",5", "-", "+", ".", "-.", ".e5", "e5", "--1", "\u00a05"});
 }
 
 TEST(LeadingNumber, JudgesTheRangeByTheWholeNumber) {
@@ -58,9 +29,8 @@ TEST(LeadingNumber, JudgesTheRangeByTheWholeNumber) {
   EXPECT_EQ(leading_number("0." + zeros + "1e401"), 1);
   EXPECT_EQ(leading_number("1" + zeros + "e-400"), 1);
   EXPECT_EQ(leading_number("0." + zeros + "1e50"), 0);
-  const std::string beyond[] = {"1e309", "-1e400", "1" + zeros, "1" + zeros + "e-10",
-                                "1e99999999999999999999"};
-  for (const std::string& text : beyond) {
+  for (const std::string& text : {std::string{"1e309"}, std::string{"-1e400"}, "1" + zeros,
+                                  "1" + zeros + "e-10", std::string{"1e99999999999999999999"}}) {
     EXPECT_THROW(leading_number(text), ArithmeticFault) << text;
   }
 }

@@ -1,54 +1,58 @@
 #include "support/form_test.h"
 
-#include <utility>
+#include <QStringList>
+
+#include "ui/text.h"
 
 namespace eterlab::test {
 
-FormTest::FormTest(std::string_view menu_entry, Texts inputs, Texts outputs)
-    : window{choose(menu_entry)}, inputs_{std::move(inputs)}, outputs_{std::move(outputs)} {}
+void FormTest::use(std::string_view menu_entry, std::string_view boxes, std::string_view results) {
+  menu_entry_ = menu_entry;
+  boxes_ = boxes;
+  results_ = results;
+  window = choose(menu_entry);
+}
 
-void FormTest::compute(const Texts& typed) {
-  ASSERT_EQ(typed.size(), inputs_.size());
-  for (std::size_t i = 0; i < inputs_.size(); ++i) {
-    window.type(inputs_[i], typed[i]);
-  }
+void FormTest::enter(std::string_view typed) const {
+  window.type(boxes_, typed);
   window.press(Qt::Key_Return);
 }
 
-Texts FormTest::results() const {
-  Texts texts;
-  for (const std::string& output : outputs_) {
-    texts.push_back(window.shows(output) ? window.text(output) : "");
-  }
-  return texts;
+void FormTest::expect(std::string_view typed, std::string_view results) {
+  SCOPED_TRACE(typed);
+  enter(typed);
+  EXPECT_EQ(this->results(), results);
+  EXPECT_EQ(boxes(), Boxes{});
 }
 
-void FormTest::expect_computed(std::initializer_list<Computed> table) {
-  for (const Computed& row : table) {
-    SCOPED_TRACE(testing::PrintToString(row.typed));
-    set_regional_settings(row.settings);
-    compute(row.typed);
-    EXPECT_EQ(results(), row.results);
-    EXPECT_EQ(boxes(), Boxes{});
-  }
+void FormTest::expect_refusal(std::string_view typed, std::string_view focus, std::string_view text,
+                              std::string_view title) {
+  SCOPED_TRACE(typed);
+  window.type(boxes_, typed);
+  const std::string before = results();
+  window.press(Qt::Key_Return);
+  EXPECT_EQ(boxes(), Boxes{std::string{title} + ": " + std::string{text}});
+  EXPECT_EQ(window.focus(), focus);
+  EXPECT_EQ(results(), before);
 }
 
-void FormTest::expect_refused(std::initializer_list<Refused> table) {
-  for (const Refused& row : table) {
-    SCOPED_TRACE(testing::PrintToString(row.typed));
-    compute(row.typed);
-    EXPECT_EQ(boxes(), Boxes{row.box});
-    EXPECT_EQ(window.focus(), row.focus);
-  }
+void FormTest::expect_end(std::string_view typed) {
+  SCOPED_TRACE(typed);
+  enter(typed);
+  EXPECT_TRUE(has_ended());
+  EXPECT_EQ(boxes().size(), 1U);
+  start_anew();
+  window = choose(menu_entry_);
 }
 
-void FormTest::expect_edits_leave(const Texts& at_rest, const Texts& typed) {
-  for (const std::string& input : inputs_) {
-    SCOPED_TRACE(input);
-    compute(typed);
-    EXPECT_NE(results(), at_rest);
-    window.type(input, "5");
-    EXPECT_EQ(results(), at_rest);
+void FormTest::expect_edits_leave(std::string_view results, std::string_view typed,
+                                  std::string_view edit) {
+  for (const QString& box : ui::to_qt(boxes_).split(' ')) {
+    SCOPED_TRACE(box.toStdString());
+    enter(typed);
+    EXPECT_NE(this->results(), results);
+    window.type(box.toStdString(), edit);
+    EXPECT_EQ(this->results(), results);
   }
 }
 

@@ -1,50 +1,40 @@
 #pragma once
 
-#include <initializer_list>
 #include <string>
-#include <vector>
 
-#include "common/regional_settings.h"
 #include "support/window_test.h"
 
 namespace eterlab::test {
 
-using Boxes = std::vector<Box>;
-using Texts = std::vector<std::string>;
-
-/// What is typed into the boxes under these settings, and the results that Enter gives.
-struct Computed {
-  RegionalSettings settings;
-  Texts typed;
-  Texts results;
-};
-
-/// What is typed into the boxes, and how Enter is answered.
-struct Refused {
-  Texts typed;
-  Box box;
-  std::string focus;
-};
-
-/// A window of input boxes, a button that computes, and results.
+/// A window of boxes to type into and of results, which Enter asks for or each key gives. Names and
+/// contents of several controls are one text each, as in Driven.
 class FormTest : public WindowTest {
  protected:
-  FormTest(std::string_view menu_entry, Texts inputs, Texts outputs);
+  /// Opens the window of a menu entry; all that is typed and expected is of these controls.
+  void use(std::string_view menu_entry, std::string_view boxes, std::string_view results);
 
-  void compute(const Texts& typed);
-  /// The texts of the outputs; none of what is hidden.
-  [[nodiscard]] Texts results() const;
+  /// Types into the boxes and presses Enter.
+  void enter(std::string_view typed) const;
+  [[nodiscard]] std::string results() const { return window.text(results_); }
 
-  void expect_computed(std::initializer_list<Computed> table);
-  void expect_refused(std::initializer_list<Refused> table);
-  /// That an edit of any box replaces the results of these inputs.
-  void expect_edits_leave(const Texts& at_rest, const Texts& typed);
+  /// That Enter then shows these results, without a message.
+  void expect(std::string_view typed, std::string_view results);
+  /// That Enter then brings this message, moves the focus and leaves the results as they are.
+  void expect_refusal(std::string_view typed, std::string_view focus,
+                      std::string_view text = "MANCANO DATI",
+                      std::string_view title = "MESSAGGIO DI ERRORE");
+  /// That this is a fault which ends the program. It is started anew, the window as well.
+  void expect_end(std::string_view typed);
+  /// That, once something was computed, an edit of any box leaves these results.
+  void expect_edits_leave(std::string_view results, std::string_view typed,
+                          std::string_view edit = "5");
 
-  Driven window;
+  Driven window = main_window();
 
  private:
-  Texts inputs_;
-  Texts outputs_;
+  std::string menu_entry_;
+  std::string boxes_;
+  std::string results_;
 };
 
 }  // namespace eterlab::test

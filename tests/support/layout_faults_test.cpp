@@ -2,15 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
+#include <functional>
 
 #include "support/window_test.h"
 #include "ui/ui.h"
 
-namespace eterlab {
+namespace eterlab::test {
 namespace {
-
-using Faults = std::vector<std::string>;
 
 // A window laid out as it should be, for tests to spoil.
 class Spoilt final : public ui::Window {
@@ -26,48 +24,36 @@ class Spoilt final : public ui::Window {
   }
 };
 
-class LayoutFaults : public test::WindowTest {
- protected:
-  LayoutFaults() { window.show(); }
-  [[nodiscard]] Faults found() const { return test::layout_faults(window); }
-  Spoilt window;
-};
+using LayoutFaults = WindowTest;
 
-TEST_F(LayoutFaults, NoneInASoundWindow) { EXPECT_EQ(found(), Faults{}); }
-
-TEST_F(LayoutFaults, ALabelTooSmallForItsText) {
-  window.Label1.setGeometry(window.Label1.x(), window.Label1.y(), 20, window.Label1.height());
-  ASSERT_EQ(found().size(), 1U);
-  EXPECT_EQ(found()[0].rfind("Label1 has 20x", 0), 0U) << found()[0];
-}
-
-TEST_F(LayoutFaults, ControlsOverEachOther) {
-  window.txtl.move(window.Label1.pos());
-  EXPECT_EQ(found().size(), 1U);
-}
-
-TEST_F(LayoutFaults, AControlBeyondTheEdge) {
-  window.txtl.move(window.width() - 5, window.txtl.y());
-  EXPECT_EQ(found(), Faults{"txtl leaves its parent"});
-}
-
-TEST_F(LayoutFaults, LettersOverALine) {
-  window.sketch.label(window.lbll, {10, 3});
-  EXPECT_EQ(found(), Faults{"lbll stands on a line of sketch"});
-}
-
-TEST_F(LayoutFaults, AControlOverTheLinesOfADrawing) {
-  window.Label1.move(window.sketch.pos() - QPoint{0, window.Label1.height() / 2});
-  window.Label1.raise();
-  EXPECT_EQ(found(), Faults{});  // the top of the drawing is empty
-  window.Label1.move(window.sketch.geometry().center() - window.Label1.rect().center());
-  EXPECT_EQ(found(), Faults{"Label1 overlaps sketch"});
-}
-
-TEST_F(LayoutFaults, AWindowLargerThanTheScreen) {
-  window.setFixedSize(1300, 900);
-  EXPECT_EQ(found(), Faults{"the window is 1300x900"});
+TEST_F(LayoutFaults, AreFoundOneByOne) {
+  const std::pair<std::function<void(Spoilt&)>, const char*> table[] = {
+      {[](Spoilt&) {}, ""},
+      {[](Spoilt& w) { w.Label1.resize(20, w.Label1.height()); }, "Label1 has 20x"},
+      {[](Spoilt& w) { w.txtl.move(w.Label1.pos()); }, " overlaps "},
+      {[](Spoilt& w) { w.txtl.move(w.width() - 5, w.txtl.y()); }, "txtl leaves its parent"},
+      {[](Spoilt& w) {
+         w.sketch.label(w.lbll, {10, 3});
+       },
+       "lbll stands on a line of sketch"},
+      // The top of the drawing is empty, the middle is not.
+      {[](Spoilt& w) {
+         w.Label1.move(w.sketch.pos() - QPoint{0, w.Label1.height() / 2});
+       },
+       ""},
+      {[](Spoilt& w) { w.Label1.move(w.sketch.geometry().center() - w.Label1.rect().center()); },
+       "Label1 overlaps sketch"},
+      {[](Spoilt& w) { w.setFixedSize(1300, 900); }, "the window is 1300x900"},
+  };
+  for (const auto& [spoil, fault] : table) {
+    Spoilt window;
+    window.show();
+    spoil(window);
+    const std::vector<std::string> found = layout_faults(window);
+    EXPECT_EQ(found.size(), *fault == '\0' ? 0U : 1U) << fault;
+    EXPECT_TRUE(found.empty() || found[0].find(fault) != std::string::npos) << found[0];
+  }
 }
 
 }  // namespace
-}  // namespace eterlab
+}  // namespace eterlab::test

@@ -4,24 +4,19 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
-#include <QEvent>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenuBar>
 #include <QMessageBox>
 #include <QPrinter>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 #include <memory>
-#include <ostream>
 #include <stdexcept>
 #include <utility>
 
+#include "common/regional_settings.h"
 #include "shell/menu_catalogue.h"
 #include "ui/printing.h"
-#include "ui/registry.h"
 #include "ui/text.h"
 
 namespace eterlab::test {
@@ -29,21 +24,16 @@ namespace eterlab::test {
 using ui::from_qt;
 using ui::to_qt;
 
-std::ostream& operator<<(std::ostream& out, const Box& box) {
-  return out << (box.is_critical ? "critical \"" : "\"") << box.title << "\": \"" << box.text
-             << '"';
-}
-
-Box error(std::string_view text) { return {"MESSAGGIO DI ERRORE", std::string{text}}; }
-Box notice(std::string_view text) { return {"MESSAGGIO DI AVVISO", std::string{text}}; }
+std::string error(std::string_view text) { return "MESSAGGIO DI ERRORE: " + std::string{text}; }
+std::string notice(std::string_view text) { return "MESSAGGIO DI AVVISO: " + std::string{text}; }
 
 BoxWatcher::BoxWatcher() { qApp->installEventFilter(this); }
 
 bool BoxWatcher::eventFilter(QObject* watched, QEvent* event) {
   auto* box = qobject_cast<QMessageBox*>(watched);
   if (box != nullptr && event->type() == QEvent::Show) {
-    boxes.push_back(
-        {from_qt(box->windowTitle()), from_qt(box->text()), box->icon() == QMessageBox::Critical});
+    const char* mark = box->icon() == QMessageBox::Critical ? "! " : "";
+    boxes.push_back(from_qt(mark + box->windowTitle() + ": " + box->text()));
     QTimer::singleShot(0, box, [box] { box->button(QMessageBox::Ok)->click(); });
   }
   return false;
@@ -57,19 +47,19 @@ QWidget& Driven::control(std::string_view name) const {
   return *found;
 }
 
-void Driven::type(std::string_view box, std::string_view text) const {
-  QWidget& widget = control(box);
-  widget.setFocus();
-  QTest::keyClick(&widget, Qt::Key_A, Qt::ControlModifier);
-  QTest::keyClick(&widget, Qt::Key_Delete);
-  QTest::keyClicks(&widget, to_qt(text));
-}
-
-void Driven::enter(std::initializer_list<Input> inputs) const {
-  for (const Input& input : inputs) {
-    type(input.box, input.text);
+void Driven::type(std::string_view boxes, std::string_view texts) const {
+  const QStringList names = to_qt(boxes).split(' ');
+  const QStringList contents = to_qt(texts).split('|');
+  if (names.size() != contents.size()) {
+    throw std::logic_error{"not a text for each box: " + std::string{texts}};
   }
-  press(Qt::Key_Return);
+  for (qsizetype i = 0; i < names.size(); ++i) {
+    QWidget& box = control(from_qt(names[i]));
+    box.setFocus();
+    QTest::keyClick(&box, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&box, Qt::Key_Delete);
+    QTest::keyClicks(&box, contents[i]);
+  }
 }
 
 void Driven::press(Qt::Key key) const {
@@ -91,33 +81,22 @@ void Driven::pick(std::string_view name, int entry) const {
                     box.view()->visualRect(index).center());
 }
 
-std::string Driven::text(std::string_view name) const {
-  const QWidget& widget = control(name);
-  // Every text is the plain text property of its widget; a frame's is its title.
-  const auto* frame = qobject_cast<const QGroupBox*>(&widget);
-  const auto* combo = qobject_cast<const QComboBox*>(&widget);
-  if (frame != nullptr) {
-    return from_qt(frame->title());
+std::string Driven::text(std::string_view names) const {
+  QStringList contents;
+  for (const QString& name : to_qt(names).split(' ')) {
+    const QWidget& widget = control(from_qt(name));
+    const bool is_list = qobject_cast<const QComboBox*>(&widget) != nullptr;
+    const QVariant content = widget.property(is_list ? "currentText" : "text");
+    contents.append(widget.isVisible() ? content.toString() : "");
   }
-  if (combo != nullptr) {
-    return from_qt(combo->currentText());
-  }
-  return from_qt(widget.property("text").toString());
+  return from_qt(contents.join('|'));
 }
 
-Texts Driven::texts(std::initializer_list<std::string_view> names) const {
-  Texts texts;
-  for (const std::string_view name : names) {
-    texts.push_back(text(name));
-  }
-  return texts;
+std::string Driven::shown(std::string_view names) const {
+  QStringList visible = to_qt(names).split(' ');
+  visible.removeIf([this](const QString& name) { return !shows(from_qt(name)); });
+  return from_qt(visible.join(' '));
 }
-
-std::string Driven::tooltip(std::string_view name) const {
-  return from_qt(control(name).toolTip());
-}
-
-bool Driven::shows(std::string_view name) const { return control(name).isVisible(); }
 
 std::string Driven::colour(std::string_view name) const {
   const QWidget& widget = control(name);
@@ -129,31 +108,34 @@ std::string Driven::focus() const {
   return focused == nullptr ? "" : from_qt(focused->objectName());
 }
 
-WindowTest::WindowTest() : desktop_{[this] { has_ended_ = true; }} {
-  set_regional_settings(english());
+WindowTest::WindowTest() {
+  set_regional_settings({",", ".", 3, 3, 2});
   ui::set_printer_source([] { return std::unique_ptr<QPrinter>{}; });
-  desktop_.show("FRMETERLAB");
+  start_anew();
 }
 
 WindowTest::~WindowTest() { set_regional_settings({}); }
 
+void WindowTest::start_anew() {
+  has_ended_ = false;
+  desktop_.emplace([this] { has_ended_ = true; });
+  desktop_->show("FRMETERLAB");
+}
+
 Driven WindowTest::choose(std::string_view menu_entry) {
+  const auto entries = shell::menu_catalogue();
+  const auto entry = std::ranges::find(entries, menu_entry, &shell::MenuEntry::name);
   auto* action = main_window().window().findChild<QAction*>(to_qt(menu_entry));
-  if (action == nullptr) {
+  if (entry == entries.end() || action == nullptr) {
     throw std::runtime_error{"no menu entry " + std::string{menu_entry}};
   }
   action->trigger();
   settle();
-  for (const shell::MenuEntry& entry : shell::menu_catalogue()) {
-    if (entry.name == menu_entry) {
-      return driven(entry.window);
-    }
-  }
-  throw std::logic_error{"menu bar and catalogue differ"};
+  return driven(entry->window);
 }
 
 Driven WindowTest::driven(std::string_view window) {
-  ui::Window* found = desktop_.find(window);
+  ui::Window* found = desktop_->find(window);
   if (found == nullptr) {
     throw std::runtime_error{"not open: " + std::string{window}};
   }
@@ -161,7 +143,7 @@ Driven WindowTest::driven(std::string_view window) {
 }
 
 bool WindowTest::is_open(std::string_view window) const {
-  const ui::Window* found = desktop_.find(window);
+  const ui::Window* found = desktop_->find(window);
   return found != nullptr && found->isVisible();
 }
 
@@ -173,21 +155,6 @@ void WindowTest::settle() {
 
 void WindowTest::close(std::string_view window) { driven(window).window().close(); }
 
-void WindowTest::expect_companion(std::string_view window, QPoint corner) {
-  if (!ui::registry::contains(window)) {
-    EXPECT_EQ(boxes(), std::vector{notice("FINESTRA NON ANCORA DISPONIBILE")});
-    return;
-  }
-  ASSERT_TRUE(is_open(window));
-  EXPECT_EQ(driven(window).window().pos(), corner);
-  EXPECT_FALSE(driven(window).window().isModal());
-}
-
-std::vector<Box> WindowTest::boxes() { return std::exchange(watcher_.boxes, {}); }
-
-void WindowTest::expect_refusal(const Driven& window, const Box& box, std::string_view focus) {
-  EXPECT_EQ(boxes(), std::vector{box});
-  EXPECT_EQ(window.focus(), focus);
-}
+Boxes WindowTest::boxes() { return std::exchange(watcher_.boxes, {}); }
 
 }  // namespace eterlab::test

@@ -9,14 +9,12 @@
 #include "support/window_test.h"
 #include "ui/theme.h"
 
-namespace eterlab {
+namespace eterlab::test {
 namespace {
 
-using Boxes = std::vector<test::Box>;
-
-class Printing : public test::WindowTest {
+class Printing : public WindowTest {
  protected:
-  test::Driven window = choose("mnupassabanda2");
+  Driven window = choose("mnupassabanda2");
   QTemporaryDir folder;
   QString file = folder.filePath("scheda.pdf");
 
@@ -69,16 +67,16 @@ TEST_F(Printing, OfADarkDesktopIsInTheColoursOfPaper) {
 TEST_F(Printing, WithoutAPrinterItSaysSoAndGoesOn) {
   window.type("txtf", "7");
   window.click("cmdstampa");
-  EXPECT_EQ(boxes(), Boxes{test::error("NESSUNA STAMPANTE DISPONIBILE")});
+  EXPECT_EQ(boxes(), Boxes{error("NESSUNA STAMPANTE DISPONIBILE")});
   EXPECT_EQ(window.text("txtf"), "7");
 }
 
 TEST_F(Printing, APrinterThatDoesNotTakeThePage) {
   print_to(folder.filePath("missing/scheda.pdf"));
-  const test::Driven band_pass = choose("mnupbk");
+  const Driven band_pass = choose("mnupbk");
   EXPECT_NONFATAL_FAILURE(band_pass.click("Command1"), "QPainter::begin");  // the toolkit grumbles
-  EXPECT_EQ(boxes(), Boxes{test::error("STAMPA NON RIUSCITA")});
+  EXPECT_EQ(boxes(), Boxes{error("STAMPA NON RIUSCITA")});
 }
 
 }  // namespace
-}  // namespace eterlab
+}  // namespace eterlab::test

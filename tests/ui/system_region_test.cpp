@@ -8,22 +8,16 @@ namespace eterlab {
 namespace {
 
 TEST(SystemRegion, NumbersAsEachCountryWritesThem) {
-  struct Expected {
-    const char* locale;
-    const char* text;
-  };
-  const Expected table[] = {
-      {"it_IT", "1.234.567,9"},
-      {"en_US", "1,234,567.9"},
-      {"de_CH", "1\u2019234\u2019567.9"},
-      {"fr_FR", "1\u202f234\u202f567,9"},
-      {"hi_IN", "12,34,567.9"},
-      {"ar_EG", "1\u066c234\u066c567\u066b9"},
-      {"C", "1,234,567.9"},
-  };
-  for (const Expected& expected : table) {
-    set_regional_settings(ui::regional_settings_of(QLocale{expected.locale}));
-    EXPECT_EQ(fixed(1234567.89, 1), expected.text) << expected.locale;
+  const char* const table[][2] = {{"it_IT", "1.234.567,9"},
+                                  {"en_US", "1,234,567.9"},
+                                  {"de_CH", "1\u2019234\u2019567.9"},
+                                  {"fr_FR", "1\u202f234\u202f567,9"},
+                                  {"hi_IN", "12,34,567.9"},
+                                  {"ar_EG", "1\u066c234\u066c567\u066b9"},
+                                  {"C", "1,234,567.9"}};
+  for (const auto& [locale, text] : table) {
+    set_regional_settings(ui::regional_settings_of(QLocale{locale}));
+    EXPECT_EQ(fixed(1234567.89, 1), text) << locale;
   }
   set_regional_settings({});
 }

@@ -1,13 +1,26 @@
-#include "units/locator.h"
-
 #include <gtest/gtest.h>
+
+#include "units/decibel_microvolt.h"
+#include "units/locator.h"
+#include "units/temperature.h"
+
+// What the windows leave open: digits that they do not show, limits and faults.
 
 namespace eterlab::units {
 namespace {
 
+TEST(DecibelMicrovolt, InHundredths) {
+  EXPECT_EQ(voltage_uv(0.1).value(), 1.01F);
+  EXPECT_THROW(level_dbuv(0), ArithmeticFault);
+}
+
+TEST(Temperature, KelvinInSinglePrecision) {
+  EXPECT_EQ(kelvin_from_celsius(0.126).value(), 273.13F);
+  EXPECT_EQ(kelvin_from_celsius(1234567.89).value(), 1234841.0F);  // all the digits that it holds
+}
+
 // Places computed apart from this code, in double precision with the latitude and its field
 // fraction packed to four bytes and back.
-
 TEST(Locator, OfPlaces) {
   const std::tuple<double, double, const char*> table[] = {
       {10, 44, "JN53AX"},  // 13.4 in single precision is just below itself: the cell to the south

@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QComboBox>
 #include <QIcon>
 #include <QMenu>
 #include <QMenuBar>
@@ -6,16 +7,17 @@
 #include <QTimer>
 #include <functional>
 
+#include "shell/dictionary.h"
 #include "shell/menu_catalogue.h"
 #include "support/window_test.h"
 #include "ui/text.h"
 
-namespace eterlab {
+namespace eterlab::test {
 namespace {
 
-class FRMETERLAB : public test::WindowTest {
+class FRMETERLAB : public WindowTest {
  protected:
-  test::Driven window = main_window();
+  Driven window = main_window();
 
   [[nodiscard]] QMenuBar& bar() const { return *window.window().findChild<QMenuBar*>(); }
 };
@@ -132,12 +134,44 @@ TEST_F(FRMETERLAB, EveryEntryIsReachedByArrowKeys) {
 
 TEST_F(FRMETERLAB, AnEntryWithoutAWindowSaysSoAndClosingItLeavesTheOthersOpen) {
   window.window().findChild<QAction*>("mnuinfo")->trigger();
-  EXPECT_EQ(boxes(), std::vector{test::notice("FINESTRA NON ANCORA DISPONIBILE")});
+  EXPECT_EQ(boxes(), Boxes{notice("FINESTRA NON ANCORA DISPONIBILE")});
   choose("mnuvoltwatt");
   window.click("cmdexit");
   EXPECT_FALSE(is_open("FRMETERLAB"));
   EXPECT_TRUE(is_open("frmvoltwatt"));
 }
 
+using frmavvertenza = WindowTest;
+
+TEST_F(frmavvertenza, IsModalAndOfItsSize) {
+  desktop().show("frmavvertenza", ui::Showing::modal);
+  const Driven window = driven("frmavvertenza");
+  EXPECT_EQ(window.window().size(), QSize(462, 174));
+  EXPECT_TRUE(window.window().isModal());
+  window.click("cmdchiudi");
+  EXPECT_FALSE(is_open("frmavvertenza"));
+}
+
+using frmdizionario = WindowTest;
+
+TEST_F(frmdizionario, OpensWithItsDesignTextOverTheWholeListEveryTime) {
+  for (int opening = 0; opening < 2; ++opening) {
+    const Driven window = choose("mnudizionario");
+    const auto& list = dynamic_cast<QComboBox&>(window.control("cbodizionario"));
+    EXPECT_EQ(list.mapTo(&window.window(), QPoint{}), QPoint(16, 16));
+    EXPECT_GE(list.width(), 329);
+    EXPECT_EQ(list.currentText(), "A/D  =  convertitore da analogico a digitale");
+    int place = 0;
+    for (const std::string_view entry : shell::dictionary()) {
+      EXPECT_EQ(ui::from_qt(list.itemText(place++)), entry);
+    }
+    EXPECT_EQ(list.count(), place);
+    window.pick("cbodizionario", list.count() - 1);
+    EXPECT_EQ(list.currentText(), "XTAL  = cristallo di quarzo ");
+    window.click("cmdesci");
+    EXPECT_FALSE(is_open("frmdizionario"));
+  }
+}
+
 }  // namespace
-}  // namespace eterlab
+}  // namespace eterlab::test

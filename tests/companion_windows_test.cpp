@@ -1,0 +1,52 @@
+#include "support/window_test.h"
+#include "ui/window.h"
+
+namespace eterlab::test {
+namespace {
+
+using CompanionWindows = WindowTest;
+
+// The design's twips over 15.
+TEST_F(CompanionWindows, StandAtTheirPlacesAlsoWhenTheyAreOpenAlready) {
+  const std::tuple<const char*, const char*, QPoint, const char*, QPoint> table[] = {
+      {"mnuverticale", "cmdchiamabobine", {12, 12}, "frmbobine", {273, 187}},
+      {"mnureattanza", "cmdchiamabobine", {12, 12}, "frmbobine", {273, 187}},
+      {"mnurisonanza", "cmdchiamabobine", {12, 12}, "frmbobine", {273, 187}},
+      {"mnufiltripassaalto", "cmdbobine", {12, 12}, "frmbobine", {273, 187}},
+      {"mnubobine", "cmdchiamaawg", {12, 12}, "frmawg", {273, 200}},
+      {"mnuyagi3", "cmdgamma", {23, 23}, "frmgammamatch", {533, 533}},
+      {"mnuyagi5", "cmdgamma", {13, 13}, "frmgammamatch", {533, 533}},
+  };
+  for (const auto& [menu_entry, button, corner, name, companion_corner] : table) {
+    SCOPED_TRACE(menu_entry);
+    const Driven window = choose(menu_entry);
+    dynamic_cast<ui::Window&>(window.window()).show_example();  // some show their buttons then
+    window.click(button);
+    EXPECT_EQ(window.window().pos(), corner);
+    ASSERT_TRUE(is_open(name));
+    QWidget& companion = driven(name).window();
+    EXPECT_EQ(companion.pos(), companion_corner);
+    EXPECT_FALSE(companion.isModal());
+    companion.move(100, 100);
+  }
+  EXPECT_EQ(boxes(), Boxes{});
+}
+
+TEST_F(CompanionWindows, LeaveSomeCallersInTheirPlace) {
+  for (const auto& [menu_entry, button] : {std::pair{"mnupassabanda2", "cmdchiamabobine"},
+                                           {"mnupbk", "cmdchiamabobine"},
+                                           {"mnumultilayer", "cmdchiamaawg"}}) {
+    const Driven window = choose(menu_entry);
+    const QPoint corner = window.window().pos();
+    window.click(button);
+    EXPECT_EQ(window.window().pos(), corner);
+  }
+  EXPECT_TRUE(is_open("frmbobine"));
+  EXPECT_EQ(driven("frmawg").window().pos(), QPoint(273, 200));
+  // The window of VHF coils would be moved, but not shown; that there is none is no matter.
+  EXPECT_FALSE(is_open("frmmicrobobine"));
+  EXPECT_EQ(boxes(), Boxes{});
+}
+
+}  // namespace
+}  // namespace eterlab::test
