@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "support/window_test.h"
+#include "ui/theme.h"
 #include "ui/ui.h"
 
 namespace eterlab::test {
