@@ -215,9 +215,9 @@ TEST_F(AllWindows, TellResultsToScreenReaders) {
         continue;
       }
       const auto& label = static_cast<const QLabel&>(*control);
-      const QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(control);
-      EXPECT_EQ(interface->role(), QAccessible::StaticText) << name_of(label);
-      EXPECT_EQ(interface->text(QAccessible::Name), label.text()) << name_of(label);
+      const QAccessibleInterface* reader_view = QAccessible::queryAccessibleInterface(control);
+      EXPECT_EQ(reader_view->role(), QAccessible::StaticText) << name_of(label);
+      EXPECT_EQ(reader_view->text(QAccessible::Name), label.text()) << name_of(label);
       EXPECT_NE(label.textInteractionFlags() & Qt::TextSelectableByMouse, 0) << name_of(label);
       EXPECT_EQ(label.focusPolicy() & Qt::TabFocus, 0) << name_of(label);
       if (before[control] != label.text()) {

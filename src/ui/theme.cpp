@@ -16,6 +16,7 @@ namespace eterlab::ui::theme {
 namespace {
 
 constexpr double smallest_readable_points = 10;
+constexpr double usual_line_height = 15;
 constexpr double heading_scale = 1.15;
 constexpr double note_scale = 0.92;
 constexpr double result_scale = 1.08;
@@ -226,7 +227,9 @@ QFont font_of(Label::Role role) {
 int characters(int count) { return QFontMetrics{QApplication::font()}.averageCharWidth() * count; }
 
 double font_scale() {
-  return std::max(1.0, QApplication::font().pointSizeF() / smallest_readable_points);
+  // Fonts of one size differ in the height of their lines, which drawings are made of.
+  return std::max({1.0, QApplication::font().pointSizeF() / smallest_readable_points,
+                   spacing() / usual_line_height});
 }
 
 int spacing() { return QFontMetrics{QApplication::font()}.height(); }

@@ -280,7 +280,8 @@ class Monkey final : public QObject {
   }
 
   QPoint any_point(const QWidget& widget) {
-    return {random_.below(widget.width()), random_.below(widget.height())};
+    return {random_.below(std::max(1, widget.width())),
+            random_.below(std::max(1, widget.height()))};
   }
 
   void press(int key, Qt::KeyboardModifiers modifiers = {}, const QString& text = {}) {
