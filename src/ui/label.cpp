@@ -95,7 +95,7 @@ void Label::on_click(Handler handler) {
 }
 
 void Label::set_font(std::string_view family, double points, QFont::Weight weight) {
-  QFont font{to_qt(family)};
+  QFont font{theme::installed_family(to_qt(family))};
   font.setPointSizeF(points);
   font.setWeight(weight);
   setFont(font);

@@ -1,6 +1,7 @@
 #include "ui/theme.h"
 
 #include <QApplication>
+#include <QFontDatabase>
 #include <QFontMetrics>
 #include <QGroupBox>
 #include <QPainter>
@@ -222,6 +223,13 @@ QFont font_of(Label::Role role) {
       break;
   }
   return font;
+}
+
+QString installed_family(const QString& designed) {
+  if (QFontDatabase::families().contains(designed)) {
+    return designed;
+  }
+  return designed == "Times New Roman" ? "Liberation Serif" : QApplication::font().family();
 }
 
 int characters(int count) { return QFontMetrics{QApplication::font()}.averageCharWidth() * count; }

@@ -28,6 +28,10 @@ Colour legible(Colour colour, const QColor& ground);
 
 QFont font_of(Label::Role role);
 
+/// A font family of the design or, where that is not installed, what stands for it. The toolkit
+/// would find the same, but long searches for each family that is missing.
+QString installed_family(const QString& designed);
+
 /// Width of a text of so many average characters in the user's font.
 int characters(int count);
 
