@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstdint>
 #include <limits>
 #include <string>
 #include <system_error>
@@ -20,7 +21,8 @@ bool is_sign(char c) { return c == '+' || c == '-'; }
 struct Scanned {
   char* end;  ///< of the characters taken
   bool has_digits = false;
-  long magnitude = 0;  ///< decimal exponent of the first digit that is not 0, give or take one
+  /// Decimal exponent of the first digit that is not 0, give or take one.
+  std::int64_t magnitude = 0;
 };
 
 Scanned take_digits(char* at) {
@@ -54,8 +56,8 @@ void take_exponent(Scanned& number, const char* text_end) {
   if (!is_digit(*digits)) {
     return;
   }
-  constexpr long far_beyond_any_text = std::numeric_limits<long>::max() / 2;
-  long exponent = far_beyond_any_text;
+  constexpr std::int64_t far_beyond_any_text = std::numeric_limits<std::int64_t>::max() / 2;
+  std::int64_t exponent = far_beyond_any_text;
   const char* const digits_end = std::from_chars(digits, text_end, exponent).ptr;
   exponent = std::min(exponent, far_beyond_any_text);
   number.magnitude += letter[1] == '-' ? -exponent : exponent;
