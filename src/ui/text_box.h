@@ -20,7 +20,8 @@ class PointLineEdit : public QLineEdit {
   void keyPressEvent(QKeyEvent* event) override;
 };
 
-/// A box for one value.
+/// A box for one value. It takes 32 767 characters, the toolkit's limit; what is pasted beyond is
+/// cut.
 class TextBox final : public PointLineEdit {
  public:
   TextBox(Parent parent, std::string_view name, Tooltip tip = {});
