@@ -28,6 +28,7 @@ namespace {
 
 using ui::from_qt;
 using ui::to_qt;
+using Texts = std::vector<std::string>;
 
 /// The program anew, with one window and its example.
 class Session final : public test::WindowTest {
@@ -65,8 +66,8 @@ class Session final : public test::WindowTest {
     return most_s;
   }
 
-  [[nodiscard]] test::Texts texts() const {
-    test::Texts texts;
+  [[nodiscard]] Texts texts() const {
+    Texts texts;
     if (window_ == nullptr) {
       return texts;
     }
@@ -77,9 +78,7 @@ class Session final : public test::WindowTest {
   }
   /// What came of it: texts, message boxes, whether the program has ended.
   auto outcome() { return std::tuple{texts(), boxes(), has_ended()}; }
-  [[nodiscard]] std::vector<std::string> layout_faults() const {
-    return test::layout_faults(*window_);
-  }
+  [[nodiscard]] Texts layout_faults() const { return test::layout_faults(*window_); }
 
  private:
   void TestBody() override {}
@@ -118,8 +117,8 @@ TEST(Surroundings, AMegabyteOfAnyKind) {
 }
 
 /// The results of a window's example without the separators of their numbers.
-test::Texts digits_of(const Session& session) {
-  test::Texts texts = session.texts();
+Texts digits_of(const Session& session) {
+  Texts texts = session.texts();
   for (std::string& text : texts) {
     text = from_qt(to_qt(text).remove(QRegularExpression{"[.,\u2019\u202f\u066b\u066c]"}));
   }
@@ -145,19 +144,20 @@ TEST_F(SurroundingCountry, SeparatesDigitsInItsWay) {
   for (const Country& country : countries) {
     set_regional_settings(ui::regional_settings_of(QLocale{country.locale}));
     window.click("Option1_1");
-    window.enter({{"txtinput", "1e12"}, {"txtohm", "50"}});
+    window.type("txtinput txtohm", "1e12|50");
+    window.press(Qt::Key_Return);
     EXPECT_EQ(window.text("lbloutput"), country.voltage);
   }
 }
 
 TEST(Surroundings, CountriesChangeNothingButSeparators) {
   for (const std::string& window : ui::registry::names()) {
-    const test::Texts expected = digits_of(Session{window});
+    const Texts expected = digits_of(Session{window});
     for (const Country& country : countries) {
       SCOPED_TRACE(window + " in " + country.locale);
       const Session session{window, country.locale};
       EXPECT_EQ(digits_of(session), expected);
-      EXPECT_EQ(session.layout_faults(), std::vector<std::string>{});
+      EXPECT_EQ(session.layout_faults(), Texts{});
     }
   }
 }
@@ -170,7 +170,7 @@ TEST(Surroundings, AnotherFontThanTheUsual) {
   QApplication::setFont(odd);
   for (const std::string& window : ui::registry::names()) {
     SCOPED_TRACE(window);
-    EXPECT_EQ(Session{window}.layout_faults(), std::vector<std::string>{});
+    EXPECT_EQ(Session{window}.layout_faults(), Texts{});
   }
   QApplication::setFont(usual);
 }
