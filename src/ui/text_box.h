@@ -20,8 +20,7 @@ class PointLineEdit : public QLineEdit {
   void keyPressEvent(QKeyEvent* event) override;
 };
 
-/// A box for one value. It takes 32 767 characters, the toolkit's limit; what is pasted beyond is
-/// cut.
+/// A box for one value, of 32 767 characters at most; what is pasted beyond them is cut.
 class TextBox final : public PointLineEdit {
  public:
   TextBox(Parent parent, std::string_view name, Tooltip tip = {});
