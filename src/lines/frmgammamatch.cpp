@@ -46,8 +46,9 @@ class frmgammamatch final : public ui::Window {
     using enum ui::Schematic::Side;
     constexpr double radiator = 3.5;
     constexpr double stub = 13;
-    constexpr double shield = 12;  // goes to the centre of the radiator
-    constexpr double inner = 15;   // conductor of the cable
+    constexpr double shield = 12;       // goes to the centre of the radiator
+    constexpr double inner = 15;        // conductor of the cable
+    constexpr double cable_end = 21.8;  // within the drawing with its whole stroke
     constexpr double near_end = 21;
     constexpr double insulator = 25;
     constexpr double spacing = 38;
@@ -58,9 +59,9 @@ class frmgammamatch final : public ui::Window {
         .rod({{near_end, stub}, {strap + 2, stub}})
         .wire({{strap, radiator}, {strap, stub}})
         .box({insulator, radiator}, {insulator + 1.2, stub})
-        .box({inner - 1, 16.5}, {inner + 1, 22})
+        .box({inner - 1, 16.5}, {inner + 1, cable_end})
         .wire({{shield, radiator}, {shield, 17.5}, {inner - 1, 17.5}})
-        .wire({{inner, 22}, {inner, stub}})
+        .wire({{inner, cable_end}, {inner, stub}})
         .capacitor({inner, stub}, {near_end, stub})
         .dimension({spacing, radiator + 0.3}, {spacing, stub - 0.3})
         .dimension({near_end, stub + 2}, {strap, stub + 2});
