@@ -21,7 +21,7 @@ class FRMETERLAB final : public ui::Window {
   ui::Label lbltitolo{background, "lbltitolo", "ETERLAB", ui::tooltip("clicca per fermare")};
   ui::Label LBLVERSIONE{background, "LBLVERSIONE", " vers. 2.13", ui::tooltip("maggio 2002")};
   ui::Label lblrisoluzione{background, "lblrisoluzione", "RISOLUZIONE 1280 x 1024"};
-  ui::DoorButton cmdexit{background, "cmdexit", ui::tooltip("CHIUDI TUTTO")};
+  ui::DoorButton cdmexit{background, "cdmexit", ui::tooltip("CHIUDI TUTTO")};
   ui::Timer Timer1{this, "Timer1"};
 
  public:
@@ -36,7 +36,7 @@ class FRMETERLAB final : public ui::Window {
     background.place(lbltitolo, {480, 360});
     background.place(LBLVERSIONE, {480, 930});
     background.place(lblrisoluzione, {480, 1260});
-    background.place(cmdexit, {7440, 5160}, {855, 615});
+    background.place(cdmexit, {7440, 5160}, {855, 615});
     add_menus();
     keep_open_on_escape();
 

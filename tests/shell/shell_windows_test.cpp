@@ -23,7 +23,7 @@ class FRMETERLAB : public WindowTest {
 };
 
 TEST_F(FRMETERLAB, StandsInItsPlacesAndEscapeDoesNotCloseIt) {
-  EXPECT_EQ(window.control("cmdexit").geometry(), QRect(496, 344, 57, 41));
+  EXPECT_EQ(window.control("cdmexit").geometry(), QRect(496, 344, 57, 41));
   EXPECT_EQ(window.control("background").size(), QSize(567, 394));
   EXPECT_EQ(window.control("lbltitolo").font().pointSizeF(), 20.25);
   window.press(Qt::Key_Escape);
@@ -136,7 +136,7 @@ TEST_F(FRMETERLAB, AnEntryWithoutAWindowSaysSoAndClosingItLeavesTheOthersOpen) {
   window.window().findChild<QAction*>("mnuinfo")->trigger();
   EXPECT_EQ(boxes(), Boxes{notice("FINESTRA NON ANCORA DISPONIBILE")});
   choose("mnuvoltwatt");
-  window.click("cmdexit");
+  window.click("cdmexit");
   EXPECT_FALSE(is_open("FRMETERLAB"));
   EXPECT_TRUE(is_open("frmvoltwatt"));
 }
