@@ -99,20 +99,20 @@ class frmpassabandakcostante final : public ui::Window {
     schema1.inductor({4, line}, {19, line})
         .mark({11.5, above_line}, "L1")
         .label(lbll1, {11.5, below_line}, Side::below)
-        .capacitor({19, line}, {30, line})
-        .mark({24.5, above_line}, "C1")
-        .label(lblc1, {24.5, below_line}, Side::below)
-        .wire({{30, line}, {47, line}})
-        .inductor({34, line}, {34, common_line})
-        .mark({31.4, name}, "L2")
-        .label(lbll2, {33, value}, Side::left)
-        .capacitor({38, line}, {38, common_line})
-        .mark({41.4, name}, "C2")
-        .label(lblc2, {39.4, value}, Side::right)
+        .capacitor({19, line}, {29, line})
+        .mark({24, above_line}, "C1")
+        .label(lblc1, {24, below_line}, Side::below)
+        .wire({{29, line}, {47, line}})
+        .inductor({31, line}, {31, common_line})
+        .mark({28.4, name}, "L2")
+        .label(lbll2, {30, value}, Side::left)
+        .capacitor({35, line}, {35, common_line})
+        .mark({38.4, name}, "C2")
+        .label(lblc2, {36.4, value}, Side::right)
         .label(lblzin, {4, line - 0.4}, Side::above)
         .label(lblzout, {47, line - 0.4}, Side::above);
-    join(schema1, 34);
-    join(schema1, 38);
+    join(schema1, 31);
+    join(schema1, 35);
   }
 
   void draw_split() {
@@ -130,21 +130,21 @@ class frmpassabandakcostante final : public ui::Window {
         .mark({57, above_line}, "C1")
         .label(lblc1b, {57, below_line}, Side::below)
         .wire({{62, line}, {79, line}})
-        .capacitor({13, line}, {13, common_line})
-        .mark({9.6, name}, "C2")
-        .label(lblc2a, {11.6, value}, Side::left)
-        .inductor({19, line}, {19, common_line})
+        .capacitor({16, line}, {16, common_line})
+        .mark({12.6, name}, "C2")
+        .label(lblc2a, {14.6, value}, Side::left)
+        .inductor({20, line}, {20, common_line})
         .mark({42, name}, "L2")
         .label(lbll2a, {42, value})
-        .arrow({34, between_texts}, {20.4, between_texts})
-        .arrow({50, between_texts}, {63.6, between_texts})
-        .inductor({65, line}, {65, common_line})
-        .capacitor({71, line}, {71, common_line})
-        .mark({74.4, name}, "C2")
-        .label(lblc2b, {72.4, value}, Side::right)
+        .arrow({34, between_texts}, {21.4, between_texts})
+        .arrow({50, between_texts}, {62.6, between_texts})
+        .inductor({64, line}, {64, common_line})
+        .capacitor({68, line}, {68, common_line})
+        .mark({71.4, name}, "C2")
+        .label(lblc2b, {69.4, value}, Side::right)
         .label(lblzin2, {5, line - 0.4}, Side::above)
         .label(lblzout2, {79, line - 0.4}, Side::above);
-    for (const double x : {13.0, 19.0, 65.0, 71.0}) {
+    for (const double x : {16.0, 20.0, 64.0, 68.0}) {
       join(schema2, x);
     }
   }

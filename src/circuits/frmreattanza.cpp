@@ -37,7 +37,7 @@ class frmreattanza final : public ui::Window {
  public:
   frmreattanza() : Window{"frmreattanza", "Reattanza "} {
     lblfantasma.reserve(kinds[inductive].formula);
-    lblinput[0].reserve("microH");
+    lblinput[2].reserve(kinds.back().result);
     lblinput[3].set_role(ui::Label::Role::result);
     arrange(ui::column(
         ui::row(Frame1.arrange(Option1), ui::column(lblfantasma,

@@ -40,7 +40,10 @@ TEST_F(frmreattanza, EachKindNamesComputesAndIsRed) {
   use("mnureattanza", "txtinput_0 txtinput_1",
       "lblfantasma lblinput_0 lblinput_1 lblinput_2 lblinput_3");
   expect("7|100", "||||227,143");  // without a kind it is a capacitor
+  const QPoint unnamed = window.control("txtinput_0").pos();
   window.click("Option1_0");
+  settle();
+  EXPECT_EQ(window.control("txtinput_0").pos(), unnamed);
   EXPECT_EQ(window.colour("Option1_0"), "#ff0000");
   expect("-7|-10", "XL in Ohm = 6,28 x (Mhz x induttanza in µH)|Mhz|microH|XL Ohm|439,600");
   expect_refusal("-7|10", "txtinput_0");

@@ -111,6 +111,9 @@ TEST_F(frmpassabandakcostante, BothDrawingsInItalian) {
          "53,1 µH|9,3 pF|0,023 µH|21.231,4 pF|10615,7 pF|10615,7 pF|2 x 0,046 µH|18,6 pF|18,6 pF|"
          "2 x 26,55 µH");
   EXPECT_EQ(window.text("lblzin lblzout lblzin2 lblzout2"), "50 OHM|50 OHM|50 OHM|50 OHM");
+  enter("50|0.135|0.138");  // the longest values of a radio band: 1061571,15 pF
+  settle();
+  EXPECT_EQ(layout_faults(window.window()), std::vector<std::string>{});
   expect_end("50|7|7");
 }
 
