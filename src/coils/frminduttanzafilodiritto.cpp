@@ -16,13 +16,13 @@ class frminduttanzafilodiritto final : public ui::Window {
   ui::TextBox txtlunghezza{this, "txtlunghezza"};
   ui::Result lblinduttanza{this, "lblinduttanza", hint};
   ui::ComputeButton cmdcalcola{this, "cmdcalcola"};
-  ui::ExitButton cmdesci{this, "cmdesci"};
+  ui::ExitButton cdmesci{this, "cdmesci"};
 
  public:
   frminduttanzafilodiritto()
       : Window{"frminduttanzafilodiritto", "CALCOLO DELL' INDUTTANZA DI UN CONDUTTORE RETTILINEO"} {
     arrange(ui::column(ui::form(field(lbldiametro, txtdiametro), field(lbllunghezza, txtlunghezza)),
-                       lblinduttanza, ui::buttons(cmdcalcola, cmdesci)));
+                       lblinduttanza, ui::buttons(cmdcalcola, cdmesci)));
     show_hint();
 
     txtdiametro.on_change([this] { show_hint(); });

@@ -109,6 +109,8 @@ TEST_F(frminduttanzafilodiritto, MicrohenryFromOneOnInThePlaceOfTheHint) {
   expect("1|0.7", "L'INDUTTANZA DEL FILO E' microHenry 1,006");
   expect("-1|-1", "L'INDUTTANZA DEL FILO E' nanoHenry -1.508,810");
   expect("2|100", "L'INDUTTANZA DEL FILO E' microHenry 229,121");
+  window.click("cdmesci");
+  EXPECT_FALSE(is_open("frminduttanzafilodiritto"));
 }
 
 using frmlunghezzafilo = FormTest;
