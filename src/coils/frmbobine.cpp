@@ -40,7 +40,7 @@ class frmbobine final : public ui::Window {
   ui::Note Label2{this, "Label2",
                   "La formula è quella di Wheeler - Benz riportata dall'handbook dell'ARRL: non "
                   "dipende dal diametro del filo e comporta un errore minimo per le bobine non "
-                  "molto lunghe, purché con L ≥ 0,4 D."};
+                  "molto lunghe, purché sia L ≥ 0,4 D."};
   ui::Note Label3{this, "Label3",
                   "La lunghezza della bobina viene stabilita in partenza: il filo dovrà quindi "
                   "avere un diametro adatto al numero di spire trovato. Partire dalla lunghezza "
