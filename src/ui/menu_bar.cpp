@@ -56,11 +56,17 @@ void MenuBar::add_entry(std::string_view name, std::string_view caption, std::st
 
 void MenuBar::condense_to(int width) {
   constexpr int narrowest_stretch = 75;
+  // The condensed letters of a family may be some per cent wider than its name for them says.
+  constexpr int allowance = 2;
   QFont condensed = font();
   for (int stretch = QFont::Unstretched;
        sizeHint().width() > width && stretch > narrowest_stretch;) {
-    const int proportional = stretch * width / sizeHint().width();
-    stretch = std::max(std::min(proportional, stretch - 1), narrowest_stretch);
+    int letters = 0;
+    for (const QAction* action : actions()) {
+      letters += fontMetrics().horizontalAdvance(action->text());
+    }
+    const int room = letters + width - sizeHint().width();
+    stretch = std::max(stretch * room / std::max(letters, 1) - allowance, narrowest_stretch);
     condensed.setStretch(stretch);
     setFont(condensed);
   }
