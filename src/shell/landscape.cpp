@@ -61,7 +61,7 @@ void draw_hills(QPainter& painter, const std::array<double, count>& heights, con
 
 void draw_waves(QPainter& painter, QPointF source) {
   // Not see-through: the toolkit would share that among threads as well.
-  constexpr std::array<QRgb, 5> fading{0xff80a3c2, 0xff8eaec9, 0xff9db9d0, 0xffabc4d8, 0xffb9cedf};
+  constexpr std::array<QRgb, 4> fading{0xff80a3c2, 0xff92b1cb, 0xffa5bfd4, 0xffb7ccde};
   constexpr double spacing = 27;
   constexpr int arc_start = 150 * 16;  // sixteenths of a degree, towards the title
   constexpr int arc_span = 60 * 16;
