@@ -17,6 +17,12 @@
 
 namespace eterlab::ui {
 
+namespace {
+
+constexpr int on_one_line = QWIDGETSIZE_MAX;
+
+}  // namespace
+
 Label::Label(Parent parent, std::string_view name, std::string_view text, Tooltip tip)
     : QLabel{parent.widget()} {
   set_up(*this, name, tip);
@@ -111,12 +117,12 @@ void Label::set_role(Role role) {
 }
 
 QSize Label::sizeHint() const {
-  if (!wordWrap()) {
-    return measured(QWIDGETSIZE_MAX).expandedTo(minimumSize());
+  constexpr int letters_of_a_line = 40;
+  if (wordWrap() && text().size() > letters_of_a_line) {
+    // How many lines that makes is for heightForWidth to tell.
+    return {theme::characters(letters_of_a_line), at_least_a_line(0)};
   }
-  QSize size = QLabel::sizeHint();
-  size.setHeight(at_least_a_line(size.height()));
-  return size;
+  return measured(on_one_line).expandedTo(minimumSize());
 }
 
 QSize Label::minimumSizeHint() const {
@@ -125,23 +131,26 @@ QSize Label::minimumSizeHint() const {
   }
   // A number of three hundred digits is no reason for a window as wide as the screen.
   constexpr int characters_of_a_word = 12;
-  const QSize size = QLabel::minimumSizeHint();
-  return {std::min(size.width(), theme::characters(characters_of_a_word)),
-          at_least_a_line(size.height())};
+  return {std::min(sizeHint().width(), theme::characters(characters_of_a_word)),
+          at_least_a_line(0)};
 }
 
 int Label::heightForWidth(int width) const { return measured(width).height(); }
 
 QSize Label::measured(int width) const {
   // To measure texts is most of the work of a layout, and every layout asks for it repeatedly.
-  if (measured_.width != width || measured_.text != text() || measured_.font != font()) {
+  if (measured_.text != text() || measured_.font != font()) {
     ensurePolished();
-    const QSize size =
-        wordWrap() ? QSize{width, QLabel::heightForWidth(width)}
-                   : fontMetrics().boundingRect({0, 0, width, width}, Qt::AlignLeft, text()).size();
-    measured_ = {text(), font(), width, {size.width(), at_least_a_line(size.height())}};
+    measured_ = {text(), font(), {}};
   }
-  return measured_.size;
+  if (!measured_.sizes.contains(width)) {
+    const QSize size =
+        wordWrap() && width != on_one_line
+            ? QSize{width, QLabel::heightForWidth(width)}
+            : fontMetrics().boundingRect({0, 0, width, width}, Qt::AlignLeft, text()).size();
+    measured_.sizes[width] = {size.width(), at_least_a_line(size.height())};
+  }
+  return measured_.sizes[width];
 }
 
 int Label::at_least_a_line(int height) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QMap>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -61,8 +62,7 @@ class Label : public QLabel {
   struct Measured {
     QString text;
     QFont font;
-    int width = -1;
-    QSize size;
+    QMap<int, QSize> sizes;  // by width
   };
 
   Role role_ = Role::text;

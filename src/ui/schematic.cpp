@@ -254,16 +254,25 @@ Schematic& Schematic::winding(At from, At to, double diameter, int turns) {
 }
 
 Schematic& Schematic::spiral(At centre, double inner_radius, double outer_radius, int turns) {
-  constexpr int chords_in_turn = 72;
-  constexpr double two_pi = 6.283185307179586;
-  const int chords = turns * chords_in_turn;
-  QPainterPath path{{centre.x + inner_radius, centre.y}};
-  for (int chord = 1; chord <= chords; ++chord) {
-    const double radius = inner_radius + (outer_radius - inner_radius) * chord / chords;
-    const double angle = two_pi * chord / chords_in_turn;
-    path.lineTo(centre.x + radius * std::cos(angle), centre.y + radius * std::sin(angle));
+  constexpr int arcs_in_turn = 8;
+  constexpr double arc_angle = 6.283185307179586 / arcs_in_turn;
+  const int arcs = turns * arcs_in_turn;
+  const double arc_rise = (outer_radius - inner_radius) / arcs;
+  QPointF handle;  // of the curve that ends or begins at a place, along the spiral
+  for (int arc = 0; arc <= arcs; ++arc) {
+    const double radius = inner_radius + arc_rise * arc;
+    const QPointF outwards{std::cos(arc_angle * arc), std::sin(arc_angle * arc)};
+    const QPointF onwards{-outwards.y(), outwards.x()};
+    const QPointF place = point(centre) + outwards * radius;
+    const QPointF third = (outwards * arc_rise + onwards * (radius * arc_angle)) / 3;
+    if (arc > 0) {
+      lines_.back().cubicTo(handle, place - third, place);
+    }
+    if (arc < arcs && arc % arcs_in_turn == 0) {
+      lines_.emplace_back(place);
+    }
+    handle = place + third;
   }
-  lines_.push_back(path);
   return *this;
 }
 
@@ -333,24 +342,23 @@ void Schematic::paintEvent(QPaintEvent* /*event*/) {
   painter.setRenderHint(QPainter::Antialiasing);
   const QColor ink = palette().color(foregroundRole());
 
-  painter.save();
-  painter.scale(step(), step());
+  // The toolkit cuts curves shorter than a unit into very small pieces: a step is too long for one.
+  const QTransform to_pixels = QTransform::fromScale(step(), step());
   const auto stroke = [&](const Lines& lines, double width, Qt::PenStyle style, Qt::PenCapStyle cap,
                           const QBrush& inside = Qt::NoBrush) {
     painter.setBrush(inside);
-    painter.setPen(QPen{ink, width, style, cap, Qt::MiterJoin});
+    painter.setPen(QPen{ink, width * step(), style, cap, Qt::MiterJoin});
     for (const QPainterPath& line : lines) {
-      painter.drawPath(line);
+      painter.drawPath(to_pixels.map(line));
     }
   };
   stroke(thin_lines_, thin_line_width, Qt::SolidLine, Qt::FlatCap);
   stroke(dashed_lines_, thin_line_width, Qt::DashLine, Qt::FlatCap);
   stroke(lines_, line_width, Qt::SolidLine, Qt::SquareCap);
   stroke(rods_, rod_width, Qt::SolidLine, Qt::FlatCap);
-  painter.fillPath(solids_, ink);
+  painter.fillPath(to_pixels.map(solids_), ink);
   const QBrush ground = palette().window();  // over the ends of wires
   stroke(terminals_, line_width, Qt::SolidLine, Qt::FlatCap, ground);
-  painter.restore();
 
   painter.setPen(ink);
   for (const Mark& mark : marks_) {

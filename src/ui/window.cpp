@@ -38,7 +38,6 @@ void Window::arrange(const Item& contents, int width_in_characters) {
   set_tab_order(*this);
   least_width_ = theme::characters(width_in_characters);
   least_ = {least_width_, 0};
-  resize(least_);  // notes are wrapped for this width at once
   fit();
 }
 
@@ -56,8 +55,9 @@ void Window::set_client_area(TwipsSize size) {
 }
 
 void Window::fit() {
-  layout()->activate();
   const int width = std::max(least_.width(), layout()->totalMinimumSize().width());
+  resize(width, height());  // texts are wrapped for this width at once
+  layout()->activate();
   const int height = layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width)
                                                    : layout()->totalSizeHint().height();
   least_ = {width, std::max(least_.height(), height)};  // it never shrinks under the user's eyes
