@@ -45,8 +45,8 @@ TEST(Waveform, TheOtherWays) {
   const auto volts = [](const WaveVoltages& v) {
     return Volts{v.rms_v.value(), v.peak_v.value(), v.peak_to_peak_v.value()};
   };
-  // 1.23 V: peak 1.73922 is rounded to 1.74, twice that is 3.48; 2.828 x 1.23 would be 3.47844.
-  EXPECT_EQ(volts(from_rms(1.23, Waveform::sine)), (Volts{1.23, 1.74, 3.48}));
+  // 1.24 V: peak 1.75336 is rounded to 1.75, twice that is 3.50; 2.828 x 1.24 would be 3.51.
+  EXPECT_EQ(volts(from_rms(1.24, Waveform::sine)), (Volts{1.24, 1.75, 3.5}));
   EXPECT_EQ(volts(from_rms(10, Waveform::triangle)), (Volts{10, 17.32, 34.64}));
   EXPECT_EQ(volts(from_rms(10, Waveform::square)), (Volts{10, 10, 20}));
   EXPECT_EQ(volts(from_peak(10, Waveform::sine)), (Volts{7.07, 10, 20}));

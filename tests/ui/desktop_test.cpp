@@ -86,7 +86,8 @@ TEST_F(Desktop, EnterPressesAFocusedButton) {
 TEST_F(Desktop, AFaultInAHandlerEndsTheProgramOnce) {
   const Driven window = open();
   window.type("txtprova", "4");
-  window.click("cmdcalcola");  // its handler edits the box, whose handler divides by zero
+  window.click("cmdcalcola");    // its handler edits the box, whose handler divides by zero
+  window.type("txtprova", "0");  // handled no more
   expect_fault("DIVISIONE PER ZERO. IL PROGRAMMA VIENE CHIUSO.");
   start_anew();
   open().control("txtprova").setProperty("text", "1e400");

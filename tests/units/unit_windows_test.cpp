@@ -79,6 +79,7 @@ class frmdB : public FormTest {
 
 TEST_F(frmdB, EachModeNamesItsValuesAndComputes) {
   use_mode(0);
+  expect("0", "DECIBEL||RAPPORTO  in TENSIONE|1,|RAPPORTO in POTENZA|1,|");
   expect("6", "DECIBEL||RAPPORTO  in TENSIONE|1,995|RAPPORTO in POTENZA|3,981|");
   expect("70", "DECIBEL||RAPPORTO  in TENSIONE|3.162,278|RAPPORTO in POTENZA|10.000.000,|");
   EXPECT_EQ(window.shown("txtinput2 txtvoltesempio"), "txtvoltesempio");
