@@ -95,7 +95,7 @@ TEST_F(FRMETERLAB, MenusOpenWithTheMouseAndTheKeyboard) {
 
 TEST_F(FRMETERLAB, AnEntryWithoutAWindowSaysSoAndClosingItLeavesTheOthersOpen) {
   window.window().findChild<QAction*>("mnuinfo")->trigger();
-  EXPECT_EQ(boxes(), Boxes{notice("FINESTRA NON ANCORA DISPONIBILE")});
+  EXPECT_EQ(boxes(), Boxes{"MESSAGGIO DI AVVISO: FINESTRA NON ANCORA DISPONIBILE"});
   choose("mnuvoltwatt");
   window.click("cmdexit");
   EXPECT_FALSE(is_open("FRMETERLAB"));

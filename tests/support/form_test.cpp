@@ -1,7 +1,5 @@
 #include "support/form_test.h"
 
-#include <QStringList>
-
 #include "ui/text.h"
 
 namespace eterlab::test {

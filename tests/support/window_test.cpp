@@ -24,9 +24,6 @@ namespace eterlab::test {
 using ui::from_qt;
 using ui::to_qt;
 
-std::string error(std::string_view text) { return "MESSAGGIO DI ERRORE: " + std::string{text}; }
-std::string notice(std::string_view text) { return "MESSAGGIO DI AVVISO: " + std::string{text}; }
-
 BoxWatcher::BoxWatcher() { qApp->installEventFilter(this); }
 
 bool BoxWatcher::eventFilter(QObject* watched, QEvent* event) {

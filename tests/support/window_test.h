@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QObject>
-#include <QPoint>
-#include <QString>
 #include <QWidget>
 #include <optional>
 #include <string>
@@ -12,15 +10,12 @@
 #include <vector>
 
 #include "ui/desktop.h"
-#include "ui/showing.h"
 #include "ui/window.h"
 
 namespace eterlab::test {
 
 /// Message boxes as texts: "MESSAGGIO DI ERRORE: MANCANO DATI", critical ones with "! " before.
 using Boxes = std::vector<std::string>;
-std::string error(std::string_view text);  ///< the usual title
-std::string notice(std::string_view text);
 
 /// Records message boxes and answers them, so that a test can go on.
 class BoxWatcher final : public QObject {

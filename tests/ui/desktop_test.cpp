@@ -73,7 +73,7 @@ TEST_F(Desktop, AMissingCompanionIsNoticed) {
   const Driven window = open();
   window.click("cmdmanca");
   EXPECT_EQ(window.window().pos(), QPoint(12, 20));
-  EXPECT_EQ(boxes(), Boxes{notice("FINESTRA NON ANCORA DISPONIBILE")});
+  EXPECT_EQ(boxes(), Boxes{"MESSAGGIO DI AVVISO: FINESTRA NON ANCORA DISPONIBILE"});
 }
 
 TEST_F(Desktop, EnterPressesAFocusedButton) {
