@@ -20,6 +20,7 @@
 #include "ui/label.h"
 #include "ui/registry.h"
 #include "ui/text.h"
+#include "ui/text_box.h"
 #include "ui/theme.h"
 
 // What must hold for every window, whichever they are.
@@ -133,6 +134,32 @@ TEST_F(AllWindows, BeginInTheirFirstInputAndGoOnInReadingOrder) {
   }
 }
 
+TEST_F(AllWindows, ComputeByEnterInEveryBoxAndCloseByEscape) {
+  for (const std::string& name : ui::registry::names()) {
+    SCOPED_TRACE(name);
+    QWidget& window = open(name);
+    desktop().find(name)->show_example();
+    const auto buttons = window.findChildren<QPushButton*>();
+    const auto compute = std::ranges::find_if(buttons, &QPushButton::isDefault);
+    int computed = 0;
+    if (compute != buttons.end()) {
+      QObject::connect(*compute, &QPushButton::clicked, &window, [&] { ++computed; });
+      for (QWidget* control : visible_controls(window)) {
+        if (dynamic_cast<ui::TextBox*>(control) != nullptr) {
+          computed = 0;
+          QTest::keyClick(control, Qt::Key_Return);
+          EXPECT_EQ(computed, 1) << name_of(*control);
+        }
+      }
+    }
+    if (name != "FRMETERLAB") {
+      driven(name).press(Qt::Key_Escape);
+      EXPECT_FALSE(is_open(name));
+    }
+  }
+  EXPECT_TRUE(boxes().empty());
+}
+
 TEST_F(AllWindows, NameEveryInputForScreenReaders) {
   for (const std::string& name : ui::registry::names()) {
     SCOPED_TRACE(name);
@@ -188,9 +215,9 @@ TEST_F(AllWindows, TellResultsToScreenReaders) {
         continue;
       }
       const auto& label = static_cast<const QLabel&>(*control);
-      const QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(control);
-      EXPECT_EQ(interface->role(), QAccessible::StaticText) << name_of(label);
-      EXPECT_EQ(interface->text(QAccessible::Name), label.text()) << name_of(label);
+      const QAccessibleInterface* reader_view = QAccessible::queryAccessibleInterface(control);
+      EXPECT_EQ(reader_view->role(), QAccessible::StaticText) << name_of(label);
+      EXPECT_EQ(reader_view->text(QAccessible::Name), label.text()) << name_of(label);
       EXPECT_NE(label.textInteractionFlags() & Qt::TextSelectableByMouse, 0) << name_of(label);
       EXPECT_EQ(label.focusPolicy() & Qt::TabFocus, 0) << name_of(label);
       if (before[control] != label.text()) {

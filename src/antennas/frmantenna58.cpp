@@ -49,7 +49,7 @@ class frmantenna58 final : public ui::Window {
     arrange(ui::column(ui::row(drawing, ui::column(Frame1.arrange(Option1), lblradiatore,
                                                    lblradiali, lblbobina, ui::stretch(), Label1)),
                        ui::buttons(cmdesci)),
-            104);
+            108);
 
     Option1.on_click([this](int index) { Option1_click(index); });
   }

@@ -13,7 +13,7 @@ class frmpassabasso2 final : public ui::Window {
   ui::TextBox txtimpedenza{this, "txtimpedenza"};
   ui::Label Label3{this, "Label3", "FREQUENZA DI TAGLIO in MHz"};
   ui::TextBox txtf{this, "txtf"};
-  ui::Schematic schema{this, "schema", 74, 22};
+  ui::Schematic schema{this, "schema", 86, 22};
   ui::Label lblzin{schema, "lblzin", "INPUT"};
   ui::Label lblc1{schema, "lblc1"};
   ui::Label lbll{schema, "lbll"};
@@ -50,30 +50,30 @@ class frmpassabasso2 final : public ui::Window {
     constexpr double line = 10;
     constexpr double common_line = 20;
     constexpr double between_lines = (line + common_line) / 2;
-    schema.wire({{7, line}, {26, line}})
-        .inductor({26, line}, {46, line})
-        .wire({{46, line}, {67, line}})
-        .wire({{7, common_line}, {67, common_line}})
-        .wire({{26, line}, {26, 3.5}})
-        .capacitor({26, 3.5}, {46, 3.5})
-        .wire({{46, 3.5}, {46, line}})
-        .junction({26, line})
-        .junction({46, line})
-        .mark({36, 1.2}, "C1")
-        .label(lblc1, {36, 4.8}, Side::below)
-        .mark({36, 8.3}, "L")
-        .label(lbll, {36, 10.4}, Side::below)
-        .label(lblzin, {7, between_lines})
-        .label(lblzout, {67, between_lines});
-    for (const double x : {19.0, 53.0}) {
+    schema.wire({{13, line}, {32, line}})
+        .inductor({32, line}, {52, line})
+        .wire({{52, line}, {73, line}})
+        .wire({{13, common_line}, {73, common_line}})
+        .wire({{32, line}, {32, 3.5}})
+        .capacitor({32, 3.5}, {52, 3.5})
+        .wire({{52, 3.5}, {52, line}})
+        .junction({32, line})
+        .junction({52, line})
+        .mark({42, 1.2}, "C1")
+        .label(lblc1, {42, 4.8}, Side::below)
+        .mark({42, 8.3}, "L")
+        .label(lbll, {42, 10.4}, Side::below)
+        .label(lblzin, {12, between_lines}, Side::left)
+        .label(lblzout, {74, between_lines}, Side::right);
+    for (const double x : {25.0, 59.0}) {
       schema.capacitor({x, line}, {x, common_line})
           .junction({x, line})
           .junction({x, common_line})
           .mark({x - 3.2, between_lines}, "C2");
     }
-    schema.label(lblc2a, {20.4, between_lines}, Side::right)
-        .label(lblc2b, {54.4, between_lines}, Side::right);
-    for (const double x : {7.0, 67.0}) {
+    schema.label(lblc2a, {26.4, between_lines}, Side::right)
+        .label(lblc2b, {60.4, between_lines}, Side::right);
+    for (const double x : {13.0, 73.0}) {
       schema.terminal({x, line}).terminal({x, common_line});
     }
   }

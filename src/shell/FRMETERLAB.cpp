@@ -60,7 +60,7 @@ class FRMETERLAB final : public ui::Window {
                        [&entry] { open(entry.window, entry.showing); });
       }
     }
-    bar->condense_to(client_area.pixels().width());
+    bar->condense_to(background.sizeHint().width());
     set_client_area(client_area);
   }
 

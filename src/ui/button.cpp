@@ -31,7 +31,7 @@ ExitButton::ExitButton(Parent parent, std::string_view name, std::string_view ca
 DoorButton::DoorButton(Parent parent, std::string_view name, Tooltip tip)
     : Button{parent, name, {}, tip} {
   setIcon(open_door_icon());
-  setIconSize({icon_size, icon_size});
+  setIconSize({icon_size(), icon_size()});
   setAccessibleName(toolTip());
   on_click([this] { window()->close(); });
 }

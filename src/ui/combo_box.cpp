@@ -41,6 +41,14 @@ void ComboBox::add(std::string_view entry, int value) {
 
 std::string ComboBox::content() const { return from_qt(currentText()); }
 
+QSize ComboBox::sizeHint() const {
+  // The toolkit measures every entry for each of its hints, and all of them again when it is shown.
+  if (measured_.entries != count() || measured_.font != font()) {
+    measured_ = {count(), font(), QComboBox::sizeHint()};
+  }
+  return measured_.size;
+}
+
 void ComboBox::on_choose(const Handler& handler) {
   connect(this, &QComboBox::activated, this, [handler] { Desktop::instance().run(handler); });
 }

@@ -32,7 +32,16 @@ class ComboBox final : public QComboBox {
   /// The first entry of that text; nothing happens when there is none.
   void choose(std::string_view entry);
 
+  [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
  private:
+  struct Measured {
+    int entries = -1;
+    QFont font;
+    QSize size;
+  };
+  mutable Measured measured_;
   int chosen_ = -1;
 };
 

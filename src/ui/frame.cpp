@@ -1,5 +1,8 @@
 #include "ui/frame.h"
 
+#include <QCoreApplication>
+#include <QEvent>
+
 #include "ui/text.h"
 #include "ui/theme.h"
 
@@ -13,6 +16,15 @@ Frame::Frame(Parent parent, std::string_view name, std::string_view title, Toolt
 Frame& Frame::arrange(const Item& contents) {
   contents.fill(*this, theme::margin());
   return *this;
+}
+
+bool Frame::event(QEvent* event) {
+  const bool handled = QGroupBox::event(event);
+  if (event->type() == QEvent::LayoutRequest) {
+    // What grew in here moves what stands around it: both before anything is painted.
+    QCoreApplication::sendPostedEvents(parentWidget(), QEvent::LayoutRequest);
+  }
+  return handled;
 }
 
 }  // namespace eterlab::ui

@@ -16,6 +16,9 @@ class Frame final : public QGroupBox {
 
   /// Lays out what stands inside; the frame itself is then an item for its window's layout.
   Frame& arrange(const Item& contents);
+
+ protected:
+  bool event(QEvent* event) override;
 };
 
 }  // namespace eterlab::ui

@@ -6,10 +6,15 @@
 #include <QPainterPath>
 #include <QPixmap>
 
+#include "ui/theme.h"
+
 namespace eterlab::ui {
 
 namespace {
 
+constexpr int drawn_size = 32;
+
+/// In a square of the size drawn.
 void draw_open_door(QPainter& painter) {
   const QColor wood{0x9c, 0x5f, 0x2e};
   const QColor dark_wood{0x5d, 0x36, 0x18};
@@ -42,6 +47,8 @@ void draw_open_door(QPainter& painter) {
 
 }  // namespace
 
+int icon_size() { return qRound(drawn_size * theme::font_scale()); }
+
 QIcon program_icon() {
   QIcon icon;
   const QDir sizes{":/icons"};
@@ -53,11 +60,12 @@ QIcon program_icon() {
 
 QIcon open_door_icon() {
   const double scale = qApp->devicePixelRatio();  // of the finest screen
-  QPixmap picture{QSize{icon_size, icon_size} * scale};
+  QPixmap picture{QSize{icon_size(), icon_size()} * scale};
   picture.fill(Qt::transparent);
   picture.setDevicePixelRatio(scale);
   QPainter painter{&picture};
   painter.setRenderHint(QPainter::Antialiasing);
+  painter.scale(theme::font_scale(), theme::font_scale());
   draw_open_door(painter);
   painter.end();
   return QIcon{picture};

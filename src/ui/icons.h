@@ -4,8 +4,8 @@
 
 namespace eterlab::ui {
 
-/// Logical pixels along each side of a button's picture.
-constexpr int icon_size = 32;
+/// Logical pixels along each side of a button's picture, which grows with the user's font.
+int icon_size();
 
 /// The program's own, as its desktop entry has it.
 QIcon program_icon();

@@ -80,13 +80,22 @@ void Label::showEvent(QShowEvent* event) {
   }
 }
 
+void Label::resizeEvent(QResizeEvent* event) {
+  QLabel::resizeEvent(event);
+  if (tells_result()) {
+    // A text that can be selected is laid out for its new size when its height is asked for. The
+    // toolkit would do it while painting, and then paint again all that is under the text.
+    QLabel::heightForWidth(width());
+  }
+}
+
 void Label::on_click(Handler handler) {
   click_handler_ = std::move(handler);
   setCursor(Qt::PointingHandCursor);
 }
 
 void Label::set_font(std::string_view family, double points, QFont::Weight weight) {
-  QFont font{to_qt(family)};
+  QFont font{theme::installed_family(to_qt(family))};
   font.setPointSizeF(points);
   font.setWeight(weight);
   setFont(font);
@@ -102,28 +111,37 @@ void Label::set_role(Role role) {
 }
 
 QSize Label::sizeHint() const {
+  if (!wordWrap()) {
+    return measured(QWIDGETSIZE_MAX).expandedTo(minimumSize());
+  }
   QSize size = QLabel::sizeHint();
   size.setHeight(at_least_a_line(size.height()));
   return size;
 }
 
 QSize Label::minimumSizeHint() const {
-  constexpr int characters_of_a_word = 12;
-  QSize size = QLabel::minimumSizeHint();
-  size.setHeight(at_least_a_line(size.height()));
-  if (wordWrap()) {
-    // A number of three hundred digits is no reason for a window as wide as the screen.
-    size.setWidth(std::min(size.width(), theme::characters(characters_of_a_word)));
+  if (!wordWrap()) {
+    return sizeHint();
   }
-  return size;
+  // A number of three hundred digits is no reason for a window as wide as the screen.
+  constexpr int characters_of_a_word = 12;
+  const QSize size = QLabel::minimumSizeHint();
+  return {std::min(size.width(), theme::characters(characters_of_a_word)),
+          at_least_a_line(size.height())};
 }
 
-int Label::heightForWidth(int width) const {
-  // Wrapping a paragraph is most of the work of a layout, and every layout asks for it repeatedly.
-  if (wrapped_.width != width || wrapped_.text != text() || wrapped_.font != font()) {
-    wrapped_ = {text(), font(), width, at_least_a_line(QLabel::heightForWidth(width))};
+int Label::heightForWidth(int width) const { return measured(width).height(); }
+
+QSize Label::measured(int width) const {
+  // To measure texts is most of the work of a layout, and every layout asks for it repeatedly.
+  if (measured_.width != width || measured_.text != text() || measured_.font != font()) {
+    ensurePolished();
+    const QSize size =
+        wordWrap() ? QSize{width, QLabel::heightForWidth(width)}
+                   : fontMetrics().boundingRect({0, 0, width, width}, Qt::AlignLeft, text()).size();
+    measured_ = {text(), font(), width, {size.width(), at_least_a_line(size.height())}};
   }
-  return wrapped_.height;
+  return measured_.size;
 }
 
 int Label::at_least_a_line(int height) const {

@@ -46,6 +46,7 @@ class Label : public QLabel {
   /// Of a result: to copy what is selected, or all of it.
   void contextMenuEvent(QContextMenuEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
  private:
@@ -55,16 +56,17 @@ class Label : public QLabel {
   void announce();
   void name_prompted();
 
-  /// The height that a text takes when it is wrapped.
-  struct Wrapped {
+  /// The room that the text takes within this width, which limits only what is wrapped.
+  [[nodiscard]] QSize measured(int width) const;
+  struct Measured {
     QString text;
     QFont font;
     int width = -1;
-    int height = -1;
+    QSize size;
   };
 
   Role role_ = Role::text;
-  mutable Wrapped wrapped_;
+  mutable Measured measured_;
   QWidget* prompted_ = nullptr;
   QString unprompted_name_;
   /// Written while it was hidden.

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QLayout>
 #include <QMenu>
+#include <QShortcut>
 #include <algorithm>
 
 #include "ui/desktop.h"
@@ -23,6 +24,8 @@ QAction* named_action(QAction* action, std::string_view name) {
 MenuBar::MenuBar(QWidget& window) : QMenuBar{&window} {
   setNativeMenuBar(false);
   window.layout()->setMenuBar(this);
+  auto* shortcut = new QShortcut{Qt::Key_F10, &window};
+  connect(shortcut, &QShortcut::activated, this, [this] { setActiveAction(actions().first()); });
 }
 
 QWidget* MenuBar::container(std::string_view name) {

@@ -10,7 +10,8 @@
 
 namespace eterlab::ui {
 
-/// The menu bar of a laid-out window. Entries are named; an empty parent is the bar itself.
+/// The menu bar of a laid-out window; F10 opens it. Entries are named; an empty parent is the bar
+/// itself.
 class MenuBar final : public QMenuBar {
  public:
   explicit MenuBar(QWidget& window);

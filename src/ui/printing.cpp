@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "ui/message_box.h"
+#include "ui/theme.h"
 
 namespace eterlab::ui {
 
@@ -25,11 +26,14 @@ std::unique_ptr<QPrinter> default_printer() {
 }
 
 /// The window as drawing commands, so that lines and letters are as sharp as the printer can make
-/// them; rendered straight onto a printer it would be a picture of the screen's pixels.
+/// them; rendered straight onto a printer it would be a picture of the screen's pixels. In the
+/// colours of paper: a dark desktop's would be a sheet of ink.
 QPicture picture_of(QWidget& window) {
   QPicture picture;
   QPainter painter{&picture};
+  window.setPalette(theme::paper_palette());
   window.render(&painter);
+  window.setPalette({});
   return picture;
 }
 

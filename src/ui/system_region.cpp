@@ -24,4 +24,16 @@ RegionalSettings regional_settings_of(const QLocale& locale) {
   return settings;
 }
 
+RegionalSettings system_regional_settings() {
+  RegionalSettings settings = regional_settings_of(QLocale::system());
+  // The toolkit groups in the way of the language, also where LC_NUMERIC names another country.
+  const QString country = qEnvironmentVariable("LC_NUMERIC");
+  if (!country.isEmpty() && qEnvironmentVariableIsEmpty("LC_ALL")) {
+    const RegionalSettings grouping = regional_settings_of(QLocale{country});
+    settings.first_group = grouping.first_group;
+    settings.other_groups = grouping.other_groups;
+  }
+  return settings;
+}
+
 }  // namespace eterlab::ui

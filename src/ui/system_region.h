@@ -10,4 +10,7 @@ namespace eterlab::ui {
 /// toolkit does not tell, stays 2.
 RegionalSettings regional_settings_of(const QLocale& locale);
 
+/// How the user's system writes numbers.
+RegionalSettings system_regional_settings();
+
 }  // namespace eterlab::ui

@@ -20,7 +20,7 @@ class PointLineEdit : public QLineEdit {
   void keyPressEvent(QKeyEvent* event) override;
 };
 
-/// A box for one value.
+/// A box for one value, of 32 767 characters at most; what is pasted beyond them is cut.
 class TextBox final : public PointLineEdit {
  public:
   TextBox(Parent parent, std::string_view name, Tooltip tip = {});

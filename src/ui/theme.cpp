@@ -1,6 +1,7 @@
 #include "ui/theme.h"
 
 #include <QApplication>
+#include <QFontDatabase>
 #include <QFontMetrics>
 #include <QGroupBox>
 #include <QPainter>
@@ -16,6 +17,7 @@ namespace eterlab::ui::theme {
 namespace {
 
 constexpr double smallest_readable_points = 10;
+constexpr double usual_line_height = 15;
 constexpr double heading_scale = 1.15;
 constexpr double note_scale = 0.92;
 constexpr double result_scale = 1.08;
@@ -82,6 +84,19 @@ class Style final : public QProxyStyle {
     return metric == PM_MenuBarItemSpacing ? 0 : QProxyStyle::pixelMetric(metric, option, widget);
   }
 
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override {
+    const auto* menu = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (element == CE_MenuBarItem && menu != nullptr) {
+      // Fusion marks an open menu, but not the one that the keyboard has arrived at.
+      QStyleOptionMenuItem marked{*menu};
+      marked.state.setFlag(State_Sunken, marked.state.testFlag(State_Selected));
+      QProxyStyle::drawControl(element, &marked, painter, widget);
+    } else {
+      QProxyStyle::drawControl(element, option, painter, widget);
+    }
+  }
+
   QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                          const QWidget* widget) const override {
     QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
@@ -95,10 +110,14 @@ class Style final : public QProxyStyle {
 
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override {
-    // "OK" needs no picture.
-    return hint == SH_DialogButtonBox_ButtonsHaveIcons
-               ? 0
-               : QProxyStyle::styleHint(hint, option, widget, data);
+    switch (hint) {
+      case SH_DialogButtonBox_ButtonsHaveIcons:
+        return 0;  // "OK" needs no picture
+      case SH_Menu_KeyboardSearch:
+        return 1;  // captions have no underlined letters to type
+      default:
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
   }
 
  private:
@@ -127,6 +146,11 @@ QFont scaled(QFont font, double factor) {
   return font;
 }
 
+QPalette with_quiet_text(QPalette palette) {
+  palette.setColor(QPalette::PlaceholderText, text_colour_at(quiet_alpha, palette));
+  return palette;
+}
+
 }  // namespace
 
 void apply() {
@@ -140,9 +164,14 @@ void apply() {
   QApplication::setWindowIcon(program_icon());
 }
 
-void set_palette(QPalette palette) {
-  palette.setColor(QPalette::PlaceholderText, text_colour_at(quiet_alpha, palette));
-  QApplication::setPalette(palette);
+void set_palette(const QPalette& palette) { QApplication::setPalette(with_quiet_text(palette)); }
+
+QPalette paper_palette() {
+  const QColor ground{0xef, 0xef, 0xef};
+  const QColor accent{0x30, 0x8c, 0xc6};
+  QPalette palette{ground};
+  palette.setColor(QPalette::Highlight, accent);
+  return with_quiet_text(palette);
 }
 
 QPalette dark_palette() {
@@ -196,10 +225,19 @@ QFont font_of(Label::Role role) {
   return font;
 }
 
+QString installed_family(const QString& designed) {
+  if (QFontDatabase::families().contains(designed)) {
+    return designed;
+  }
+  return designed == "Times New Roman" ? "Liberation Serif" : QApplication::font().family();
+}
+
 int characters(int count) { return QFontMetrics{QApplication::font()}.averageCharWidth() * count; }
 
 double font_scale() {
-  return std::max(1.0, QApplication::font().pointSizeF() / smallest_readable_points);
+  // Fonts of one size differ in the height of their lines, which drawings are made of.
+  return std::max({1.0, QApplication::font().pointSizeF() / smallest_readable_points,
+                   spacing() / usual_line_height});
 }
 
 int spacing() { return QFontMetrics{QApplication::font()}.height(); }

@@ -15,15 +15,22 @@ namespace eterlab::ui::theme {
 void apply();
 
 /// Gives the whole program these colours, and quiet text its own out of them.
-void set_palette(QPalette palette);
+void set_palette(const QPalette& palette);
 
 /// Light letters on a dark ground, as a dark desktop gives them; for the gallery and for tests.
 QPalette dark_palette();
+
+/// Dark letters on a light ground, whatever the desktop's colours are.
+QPalette paper_palette();
 
 /// A colour of the design as it can be read on a ground: itself on a light one, lighter on a dark.
 Colour legible(Colour colour, const QColor& ground);
 
 QFont font_of(Label::Role role);
+
+/// A font family of the design or, where that is not installed, what stands for it. The toolkit
+/// would find the same, but long searches for each family that is missing.
+QString installed_family(const QString& designed);
 
 /// Width of a text of so many average characters in the user's font.
 int characters(int count);

@@ -91,6 +91,45 @@ TEST_F(FRMETERLAB, MenusOpenWithTheMouseAndTheKeyboard) {
   }
   QTest::keyClick(volt->menu(), Qt::Key_Return);
   EXPECT_TRUE(is_open("frmvolt"));
+  close("frmvolt");
+
+  QTest::keyClick(&window.window(), Qt::Key_F10);
+  QTest::keyClicks(volt->menu(), "volt r");
+  QTest::keyClick(volt->menu(), Qt::Key_Return);
+  EXPECT_TRUE(is_open("frmvolt"));
+}
+
+TEST_F(FRMETERLAB, EveryEntryIsReachedByArrowKeys) {
+  int reached = 0;
+  const std::function<void(QMenu&)> walk = [&](QMenu& menu) {
+    for (QAction* entry : menu.actions()) {
+      if (menu.activeAction() != entry) {  // the first one of a submenu is active from its opening
+        QTest::keyClick(&menu, Qt::Key_Down);
+      }
+      ASSERT_EQ(menu.activeAction(), entry);
+      ++reached;
+      if (entry->menu() != nullptr) {
+        QTest::keyClick(&menu, Qt::Key_Right);
+        ASSERT_TRUE(entry->menu()->isVisible());
+        walk(*entry->menu());
+        QTest::keyClick(entry->menu(), Qt::Key_Left);
+        ASSERT_FALSE(entry->menu()->isVisible());
+      }
+    }
+  };
+  bar().setActiveAction(bar().actions().front());
+  for (QAction* top : bar().actions()) {
+    ASSERT_EQ(bar().activeAction(), top);
+    ++reached;
+    if (top->menu() != nullptr) {
+      QTest::keyClick(&bar(), Qt::Key_Down);
+      ASSERT_TRUE(top->menu()->isVisible());
+      walk(*top->menu());
+      QTest::keyClick(top->menu(), Qt::Key_Escape);
+    }
+    QTest::keyClick(&bar(), Qt::Key_Right);
+  }
+  EXPECT_EQ(reached, static_cast<int>(shell::menu_catalogue().size()));
 }
 
 TEST_F(FRMETERLAB, AnEntryWithoutAWindowSaysSoAndClosingItLeavesTheOthersOpen) {

@@ -31,6 +31,8 @@ int main(int argc, char* argv[]) {
   qInstallMessageHandler(report);
   QApplication application{argc, argv};
   QApplication::setQuitOnLastWindowClosed(false);
+  // Windows are judged in the same letters on every platform.
+  QApplication::setFont({"DejaVu Sans", 10});
   eterlab::ui::theme::apply();
   eterlab::ui::speak_italian();
   ::testing::InitGoogleTest(&argc, argv);

@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "support/window_test.h"
+#include "ui/theme.h"
 #include "ui/ui.h"
 
 namespace eterlab::test {
@@ -62,8 +63,10 @@ TEST_F(FixedArea, PlacesMoveApartWithTheFont) {
   Placed larger;
   larger.show();
   settle();
-  EXPECT_EQ(larger.lblnota.pos(), QPoint(40, 200));
-  EXPECT_EQ(larger.size(), QSize(600, 400));
+  const double scale = ui::theme::font_scale();
+  EXPECT_GE(scale, 2);
+  EXPECT_EQ(larger.lblnota.pos(), QPoint(20, 100) * scale);
+  EXPECT_EQ(larger.size(), QSize(300, 200) * scale);
 }
 
 }  // namespace

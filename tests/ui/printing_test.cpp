@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 
 #include "support/window_test.h"
+#include "ui/theme.h"
 
 namespace eterlab::test {
 namespace {
@@ -15,6 +16,7 @@ class Printing : public WindowTest {
  protected:
   Driven window = choose("mnupassabanda2");
   QTemporaryDir folder;
+  QString file = folder.filePath("scheda.pdf");
 
   /// Printers in this test write to that file.
   static void print_to(const QString& path) {
@@ -25,15 +27,17 @@ class Printing : public WindowTest {
       return printer;
     });
   }
+  [[nodiscard]] QByteArray printed() const {
+    QFile pdf{file};
+    return pdf.open(QIODevice::ReadOnly) ? pdf.readAll() : QByteArray{};
+  }
 };
 
 TEST_F(Printing, OnePageWithTheLettersAsLetters) {
-  QFile file{folder.filePath("scheda.pdf")};
-  print_to(file.fileName());
+  print_to(file);
   window.click("cmdstampa");
   EXPECT_EQ(boxes(), Boxes{});
-  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  const QByteArray pdf = file.readAll();
+  const QByteArray pdf = printed();
   EXPECT_TRUE(pdf.startsWith("%PDF"));
   EXPECT_EQ(pdf.count("/Type /Page\n"), 1);
   EXPECT_GT(pdf.count("/Type /Font\n"), 0);
@@ -43,6 +47,21 @@ TEST_F(Printing, OnePageWithTheLettersAsLetters) {
     const QByteArray pixels = pdf.mid(at + width.size()).split('\n').first();
     EXPECT_LT(pixels.toInt(), window.window().width() / 2);
   }
+}
+
+TEST_F(Printing, OfADarkDesktopIsInTheColoursOfPaper) {
+  const QPalette usual = QApplication::palette();
+  print_to(file);
+  const auto page_of_desktop_in = [&](const QPalette& colours) {
+    ui::theme::set_palette(colours);
+    close("frmpassabasso2");
+    choose("mnupassabanda2").click("cmdstampa");
+    const QByteArray pdf = printed();  // its head tells the time
+    return pdf.mid(pdf.indexOf("/Type /Page\n"));
+  };
+  const QByteArray on_paper = page_of_desktop_in(ui::theme::paper_palette());
+  EXPECT_TRUE(page_of_desktop_in(ui::theme::dark_palette()) == on_paper);
+  ui::theme::set_palette(usual);
 }
 
 TEST_F(Printing, WithoutAPrinterItSaysSoAndGoesOn) {

@@ -22,5 +22,18 @@ TEST(SystemRegion, NumbersAsEachCountryWritesThem) {
   set_regional_settings({});
 }
 
+TEST(SystemRegion, NumbersOfACountryInTheLanguageOfAnother) {
+  const QByteArray all = qgetenv("LC_ALL");
+  const QByteArray numeric = qgetenv("LC_NUMERIC");
+  const auto groups = [] { return ui::system_regional_settings().other_groups; };
+  qputenv("LC_ALL", "");
+  qputenv("LC_NUMERIC", "hi_IN.UTF-8");
+  EXPECT_EQ(groups(), 2);
+  qputenv("LC_ALL", "it_IT.UTF-8");
+  EXPECT_EQ(groups(), 3);
+  qputenv("LC_ALL", all);
+  qputenv("LC_NUMERIC", numeric);
+}
+
 }  // namespace
 }  // namespace eterlab

@@ -1,0 +1,89 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPixmapCache>
+#include <QRadioButton>
+#include <cstddef>
+
+#include "support/window_test.h"
+#include "ui/registry.h"
+
+#if ETERLAB_SANITIZED
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();  // NOLINT: the library's name
+#elif defined(__GLIBC__)
+#include <malloc.h>
+#endif
+
+// Every window opened, used and closed again and again: nothing of it stays behind. What nothing
+// points to any more, the leak sanitizer tells at the end.
+
+namespace eterlab {
+namespace {
+
+/// 0 where no library tells. The C library counts what it keeps at hand for the next demand.
+double heap_in_use_kib() {
+#if ETERLAB_SANITIZED
+  const std::size_t bytes = __sanitizer_get_current_allocated_bytes();
+#elif defined(__GLIBC__)
+  const struct mallinfo2 heap = mallinfo2();
+  const std::size_t bytes = heap.uordblks + heap.hblkhd;
+#else
+  const std::size_t bytes = 0;
+#endif
+  return static_cast<double>(bytes) / 1024;
+}
+constexpr double noise_kib = ETERLAB_SANITIZED ? 16 : 128;
+
+class Soak : public test::WindowTest, public ::testing::WithParamInterface<std::string> {
+ protected:
+  // Pictures of controls, kept by the style, make way only when they are 10 MiB.
+  void SetUp() override { QPixmapCache::setCacheLimit(0); }
+  void TearDown() override { QPixmapCache::setCacheLimit(usual_cache_kib_); }
+
+  void open_use_and_close(const std::string& name) {
+    desktop().show(name);
+    desktop().find(name)->show_example();
+    const test::Driven window = driven(name);
+    for (QRadioButton* option : window.window().findChildren<QRadioButton*>()) {
+      option->click();
+    }
+    int number = 2;
+    for (QLineEdit* box : window.window().findChildren<QLineEdit*>()) {
+      box->selectAll();
+      box->insert(QString::number(number++));
+    }
+    window.press(Qt::Key_Return);
+    QApplication::processEvents();
+    close(name);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    boxes();
+  }
+
+ private:
+  const int usual_cache_kib_ = QPixmapCache::cacheLimit();
+};
+
+TEST_P(Soak, TwoHundredOpeningsLeaveNothingBehind) {
+  constexpr int rounds = 200;
+  constexpr int rounds_that_fill_caches = 20;
+  desktop().show("frmavvertenza");  // where the main window comes and goes, the program goes on
+  qsizetype widgets = 0;
+  double heap_kib = 0;
+  for (int round = 0; round < rounds; ++round) {
+    if (round == rounds_that_fill_caches) {
+      widgets = QApplication::allWidgets().size();
+      heap_kib = heap_in_use_kib();
+    }
+    open_use_and_close(GetParam());
+  }
+  EXPECT_FALSE(has_ended());
+  EXPECT_EQ(QApplication::allWidgets().size(), widgets);
+  EXPECT_LT(heap_in_use_kib(), heap_kib + noise_kib);
+}
+
+INSTANTIATE_TEST_SUITE_P(Windows, Soak, ::testing::ValuesIn(ui::registry::names()),
+                         [](const auto& window) { return window.param; });
+
+}  // namespace
+}  // namespace eterlab
