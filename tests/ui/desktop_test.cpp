@@ -58,7 +58,7 @@ TEST_F(Desktop, OneInstanceThatStartsAnewAfterClosing) {
   window.press(Qt::Key_Escape);
   EXPECT_FALSE(is_open("frmprova"));
   EXPECT_EQ(open().text("txtprova"), "");
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  settle();
   EXPECT_TRUE(closed.isNull());
 }
 
