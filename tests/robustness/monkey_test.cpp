@@ -106,17 +106,6 @@ QString any_of_unicode(Random& random) {
   return text;
 }
 
-/// A key that is held down while another one is pressed.
-struct Held {
-  Qt::KeyboardModifier modifier;
-  int key;
-};
-constexpr Held none{Qt::NoModifier, 0};
-constexpr Held shift{Qt::ShiftModifier, Qt::Key_Shift};
-constexpr Held control{Qt::ControlModifier, Qt::Key_Control};
-constexpr Held alt{Qt::AltModifier, Qt::Key_Alt};
-constexpr Held keypad{Qt::KeypadModifier, 0};
-
 QString any_text(Random& random) {
   if (random.one_in(100)) {
     return to_qt(garbage(random)).repeated(1000);
@@ -134,6 +123,17 @@ QString any_text(Random& random) {
       return to_qt(ordinary_number(random));
   }
 }
+
+/// A key that is held down while another one is pressed.
+struct Held {
+  Qt::KeyboardModifier modifier;
+  int key;
+};
+constexpr Held none{Qt::NoModifier, 0};
+constexpr Held shift{Qt::ShiftModifier, Qt::Key_Shift};
+constexpr Held control{Qt::ControlModifier, Qt::Key_Control};
+constexpr Held alt{Qt::AltModifier, Qt::Key_Alt};
+constexpr Held keypad{Qt::KeypadModifier, 0};
 
 // Sessions take turns, so that these can run beside each other.
 constexpr int shards = 4;
@@ -175,12 +175,12 @@ class Monkey : public WindowTest, public ::testing::WithParamInterface<int> {
   // What the monkey does
 
   void act() {
+    if (const QWidget* popup = QApplication::activePopupWidget(); popup != nullptr) {
+      return use_popup(*popup);
+    }
     QWidget& window = any_window();
     under_hand_ = &window;
     const QWidget* modal = QApplication::activeModalWidget();
-    if (QWidget* popup = QApplication::activePopupWidget(); popup != nullptr) {
-      return use_popup(*popup);
-    }
     if (modal != nullptr && modal != &window) {
       return click_control(window);  // which the modal window blocks
     }
