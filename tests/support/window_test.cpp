@@ -132,7 +132,7 @@ void WindowTest::start_anew() {
 ui::Window& WindowTest::open(std::string_view window) {
   desktop_->show(window);
   settle();
-  return *desktop_->find(window);
+  return dynamic_cast<ui::Window&>(driven(window).window());
 }
 
 void WindowTest::for_each_window(const std::function<void(ui::Window&)>& check) {
