@@ -7,7 +7,7 @@
 #include <QFontMetrics>
 #include <QLineEdit>
 #include <QPushButton>
-#include <algorithm>
+#include <QTest>
 #include <map>
 #include <set>
 

@@ -11,8 +11,8 @@ namespace {
 
 class NumberText : public ::testing::Test {
  protected:
-  NumberText() { set_regional_settings({",", ".", 3, 3, 2}); }
-  ~NumberText() override { set_regional_settings({}); }
+  void SetUp() override { set_regional_settings({",", ".", 3, 3, 2}); }
+  void TearDown() override { set_regional_settings({}); }
 };
 
 TEST_F(NumberText, FixedGroupsAndRoundsHalfAwayFromZeroOnDecimalDigits) {

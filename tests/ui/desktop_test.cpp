@@ -29,11 +29,7 @@ class frmprova final : public ui::Window {
 
 class Desktop : public WindowTest {
  protected:
-  Desktop() {
-    if (!ui::registry::contains("frmprova")) {
-      const ui::Registration<frmprova> registration{"frmprova"};
-    }
-  }
+  const ui::Registration<frmprova> registration{"frmprova"};
 
   Driven open() {
     desktop().show("frmprova");
