@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <cstdio>
@@ -5,7 +6,6 @@
 #include <functional>
 #include <iostream>
 #include <iterator>
-#include <regex>
 
 #include "common/leading_number.h"
 #include "common/number_text.h"
@@ -56,11 +56,11 @@ std::string text_of_result(const std::function<Real()>& computation) {
 /// The number that a text begins with.
 double number_in(std::string text) {
   std::erase_if(text, [](char c) { return c == ' ' || c == '\t' || c == '\n'; });
-  static const std::regex rule{R"(^[+-]?([0-9]+\.?[0-9]*|\.[0-9]+)([EeDd][+-]?[0-9]+)?)"};
-  static const std::regex letter{"[Dd]"};
-  std::smatch number;
-  std::regex_search(text, number, rule);
-  return std::strtod(std::regex_replace(number.str(), letter, "e").c_str(), nullptr);
+  const std::size_t end = text.find_first_not_of("0123456789.+-EeDd");  // no "0x10", no "inf"
+  text.resize(std::min(end, text.size()));
+  std::ranges::replace_if(
+      text, [](char c) { return c == 'D' || c == 'd'; }, 'e');
+  return std::strtod(text.c_str(), nullptr);
 }
 
 /// A number in decimal digits: whole x 10^exponent.
