@@ -77,8 +77,8 @@ void Driven::click(std::string_view name) const {
   QTest::mouseClick(&control(name), Qt::LeftButton);
 }
 
-void Driven::pick(std::string_view name, int entry) const {
-  auto& box = dynamic_cast<QComboBox&>(control(name));
+void Driven::pick(std::string_view combo_box, int entry) const {
+  auto& box = dynamic_cast<QComboBox&>(control(combo_box));
   box.setFocus();
   QTest::keyClick(&box, Qt::Key_Down, Qt::AltModifier);
   const QModelIndex index = box.model()->index(entry, box.modelColumn());
