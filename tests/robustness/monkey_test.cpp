@@ -195,8 +195,9 @@ class Monkey : public WindowTest, public ::testing::WithParamInterface<int> {
       case 3:
         return click_control(window);
       case 4:
-      case 5:
         return press_any_key();
+      case 5:
+        return random_.one_in(3) ? choose_menu_entry() : press_any_key();
       case 6:
         return use_mouse_anywhere(window);
       default:
