@@ -5,12 +5,9 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFontMetrics>
-#include <QLabel>
 #include <QLineEdit>
-#include <QMenuBar>
 #include <QPushButton>
-#include <QRadioButton>
-#include <algorithm>
+#include <QTest>
 #include <map>
 #include <set>
 
@@ -21,56 +18,24 @@
 #include "ui/registry.h"
 #include "ui/text.h"
 #include "ui/text_box.h"
-#include "ui/theme.h"
 
 // What must hold for every window, whichever they are.
 
-namespace eterlab {
+namespace eterlab::test {
 namespace {
 
-using test::layout_faults;
-using test::visible_controls;
-using ui::from_qt;
-using Faults = std::vector<std::string>;
-
-std::string name_of(const QWidget& widget) { return from_qt(widget.objectName()); }
-
-class AllWindows : public test::WindowTest {
- protected:
-  QWidget& open(const std::string& name) {
-    desktop().show(name);
-    settle();
-    return driven(name).window();
-  }
-};
+using AllWindows = WindowTest;
 
 TEST_F(AllWindows, AreNamedAndTitled) {
-  for (const std::string& name : ui::registry::names()) {
-    SCOPED_TRACE(name);
-    const QWidget& window = open(name);
-    EXPECT_EQ(name_of(window), name);
+  for_each_window([this](ui::Window& window) {
+    EXPECT_EQ(desktop().find(name_of(window)), &window);
     EXPECT_NE(window.windowTitle(), "");
+    window.show_example();  // some show their results then
     std::set<QString> names;
     for (const QWidget* control : visible_controls(window)) {
       EXPECT_TRUE(names.insert(control->objectName()).second) << name_of(*control);
     }
-  }
-}
-
-TEST_F(AllWindows, OpenUseCloseAndOpenAgain) {
-  for (const std::string& name : ui::registry::names()) {
-    SCOPED_TRACE(name);
-    for (int round = 0; round < 2; ++round) {
-      open(name);
-      desktop().find(name)->show_example();
-      close(name);
-      EXPECT_FALSE(is_open(name));
-      QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-    EXPECT_TRUE(boxes().empty());
-    EXPECT_FALSE(has_ended());
-    desktop().show("FRMETERLAB");
-  }
+  });
 }
 
 TEST_F(AllWindows, AreLaidOutSoundlyInEveryFontSize) {
@@ -80,37 +45,30 @@ TEST_F(AllWindows, AreLaidOutSoundlyInEveryFontSize) {
     QFont font = usual;
     font.setPointSizeF(usual.pointSizeF() * scale);
     QApplication::setFont(font);
-    for (const std::string& name : ui::registry::names()) {
-      if (is_open(name)) {
-        close(name);
-      }
-      SCOPED_TRACE(name);
-      EXPECT_EQ(layout_faults(open(name)), Faults{});
-      desktop().find(name)->show_example();
+    for_each_window([](ui::Window& window) {
+      EXPECT_EQ(layout_faults(window), Texts{});
+      window.show_example();
       settle();
-      EXPECT_EQ(layout_faults(driven(name).window()), Faults{});
-    }
+      EXPECT_EQ(layout_faults(window), Texts{});
+    });
   }
   QApplication::setFont(usual);
 }
 
 TEST_F(AllWindows, GrowForResultsByWholeLinesOnly) {
   const int line = QFontMetrics{QApplication::font()}.height();
-  for (const std::string& name : ui::registry::names()) {
-    const QWidget& window = open(name);
+  for_each_window([line](ui::Window& window) {
     const QSize opening = window.size();
-    desktop().find(name)->show_example();
+    window.show_example();
     settle();
-    EXPECT_EQ(window.width(), opening.width()) << name;
-    EXPECT_TRUE(window.height() == opening.height() || window.height() >= opening.height() + line)
-        << name << " grew from " << opening.height() << " to " << window.height();
-  }
+    EXPECT_EQ(window.width(), opening.width());
+    const int growth = window.height() - opening.height();
+    EXPECT_TRUE(growth == 0 || growth >= line) << growth;
+  });
 }
 
 TEST_F(AllWindows, BeginInTheirFirstInputAndGoOnInReadingOrder) {
-  for (const std::string& name : ui::registry::names()) {
-    SCOPED_TRACE(name);
-    QWidget& window = open(name);
+  for_each_window([](ui::Window& window) {
     std::vector<QWidget*> order;
     for (QWidget* at = window.nextInFocusChain(); at != &window; at = at->nextInFocusChain()) {
       if (at->isVisible() && (at->focusPolicy() & Qt::TabFocus) != 0 &&
@@ -131,109 +89,94 @@ TEST_F(AllWindows, BeginInTheirFirstInputAndGoOnInReadingOrder) {
       EXPECT_TRUE(qobject_cast<const QLineEdit*>(focused) != nullptr ||
                   qobject_cast<const QComboBox*>(focused) != nullptr);
     }
-  }
+  });
 }
 
 TEST_F(AllWindows, ComputeByEnterInEveryBoxAndCloseByEscape) {
-  for (const std::string& name : ui::registry::names()) {
-    SCOPED_TRACE(name);
-    QWidget& window = open(name);
-    desktop().find(name)->show_example();
-    const auto buttons = window.findChildren<QPushButton*>();
-    const auto compute = std::ranges::find_if(buttons, &QPushButton::isDefault);
+  for_each_window([this](ui::Window& window) {
+    window.show_example();
     int computed = 0;
-    if (compute != buttons.end()) {
-      QObject::connect(*compute, &QPushButton::clicked, &window, [&] { ++computed; });
-      for (QWidget* control : visible_controls(window)) {
-        if (dynamic_cast<ui::TextBox*>(control) != nullptr) {
+    for (const QPushButton* button : window.findChildren<QPushButton*>()) {
+      if (button->isDefault()) {
+        QObject::connect(button, &QPushButton::clicked, &window, [&] { ++computed; });
+        for (ui::TextBox* box : visible<ui::TextBox>(window)) {
           computed = 0;
-          QTest::keyClick(control, Qt::Key_Return);
-          EXPECT_EQ(computed, 1) << name_of(*control);
+          QTest::keyClick(box, Qt::Key_Return);
+          EXPECT_EQ(computed, 1) << name_of(*box);
         }
       }
     }
-    if (name != "FRMETERLAB") {
-      driven(name).press(Qt::Key_Escape);
-      EXPECT_FALSE(is_open(name));
-    }
-  }
-  EXPECT_TRUE(boxes().empty());
+    EXPECT_EQ(boxes(), Boxes{});
+    const std::string name = name_of(window);
+    Driven{window}.press(Qt::Key_Escape);
+    EXPECT_EQ(is_open(name), name == "FRMETERLAB");
+    EXPECT_FALSE(has_ended());
+  });
 }
 
 TEST_F(AllWindows, NameEveryInputForScreenReaders) {
-  for (const std::string& name : ui::registry::names()) {
-    SCOPED_TRACE(name);
-    for (const QWidget* control : visible_controls(open(name))) {
-      if (qobject_cast<const QLineEdit*>(control) != nullptr ||
+  for_each_window([](const ui::Window& window) {
+    for (const QWidget* control : visible_controls(window)) {
+      const auto* button = qobject_cast<const QAbstractButton*>(control);
+      if (button != nullptr || qobject_cast<const QLineEdit*>(control) != nullptr ||
           qobject_cast<const QComboBox*>(control) != nullptr) {
-        EXPECT_NE(control->accessibleName(), "") << name_of(*control);
-      }
-      if (const auto* button = qobject_cast<const QAbstractButton*>(control); button != nullptr) {
-        EXPECT_NE(button->text() + button->accessibleName(), "") << name_of(*control);
+        const QString text = button == nullptr ? "" : button->text();
+        EXPECT_NE(text + control->accessibleName(), "") << name_of(*control);
       }
     }
-  }
+  });
 }
 
 // The texts announced to screen readers since the last call.
-std::vector<std::string> announced;
+std::set<QString> announced;
 
 void note_announcement(QAccessibleEvent* event) {
   if (event->type() == QAccessible::Alert) {
-    announced.push_back(from_qt(event->accessibleInterface()->text(QAccessible::Name)));
+    announced.insert(event->accessibleInterface()->text(QAccessible::Name));
   }
 }
 
-// As if a screen reader ran.
-QPlatformAccessibility& accessibility() {
-  return *QGuiApplicationPrivate::platformIntegration()->accessibility();
-}
-
-bool tells_result(const QWidget& control) {
-  const auto* label = dynamic_cast<const ui::Label*>(&control);
-  return label != nullptr && !label->text().isEmpty() &&
-         (label->role() == ui::Label::Role::result || label->role() == ui::Label::Role::drawing);
+/// The results that a window shows, and their texts.
+std::map<ui::Label*, QString> results_on(const ui::Window& window) {
+  std::map<ui::Label*, QString> results;
+  for (ui::Label* label : visible<ui::Label>(window)) {
+    const bool is_result =
+        label->role() == ui::Label::Role::result || label->role() == ui::Label::Role::drawing;
+    if (is_result && !label->text().isEmpty()) {
+      results[label] = label->text();
+    }
+  }
+  return results;
 }
 
 TEST_F(AllWindows, TellResultsToScreenReaders) {
-  accessibility().setActive(true);
+  // As if a screen reader ran.
+  auto& accessibility = *QGuiApplicationPrivate::platformIntegration()->accessibility();
+  accessibility.setActive(true);
   const auto previous = QAccessible::installUpdateHandler(note_announcement);
-  for (const std::string& name : ui::registry::names()) {
-    SCOPED_TRACE(name);
-    const QWidget& window = open(name);
-    std::map<const QWidget*, QString> before;
-    for (const QWidget* control : visible_controls(window)) {
-      if (tells_result(*control)) {
-        before[control] = static_cast<const QLabel*>(control)->text();
-      }
-    }
+  for_each_window([](ui::Window& window) {
+    auto before = results_on(window);
     announced.clear();
-    desktop().find(name)->show_example();
+    window.show_example();
     settle();
-    for (QWidget* control : visible_controls(window)) {
-      if (!tells_result(*control)) {
-        continue;
-      }
-      const auto& label = static_cast<const QLabel&>(*control);
-      const QAccessibleInterface* reader_view = QAccessible::queryAccessibleInterface(control);
-      EXPECT_EQ(reader_view->role(), QAccessible::StaticText) << name_of(label);
-      EXPECT_EQ(reader_view->text(QAccessible::Name), label.text()) << name_of(label);
-      EXPECT_NE(label.textInteractionFlags() & Qt::TextSelectableByMouse, 0) << name_of(label);
-      EXPECT_EQ(label.focusPolicy() & Qt::TabFocus, 0) << name_of(label);
-      if (before[control] != label.text()) {
-        EXPECT_NE(std::ranges::find(announced, from_qt(label.text())), announced.end())
-            << name_of(label) << " changed silently to " << from_qt(label.text());
-      }
+    for (const auto& [label, text] : results_on(window)) {
+      SCOPED_TRACE(name_of(*label));
+      const QAccessibleInterface* reader_view = QAccessible::queryAccessibleInterface(label);
+      EXPECT_EQ(reader_view->role(), QAccessible::StaticText);
+      EXPECT_EQ(reader_view->text(QAccessible::Name), text);
+      EXPECT_NE(label->textInteractionFlags() & Qt::TextSelectableByMouse, 0);
+      EXPECT_EQ(label->focusPolicy() & Qt::TabFocus, 0);
+      EXPECT_TRUE(before[label] == text || announced.contains(text)) << ui::from_qt(text);
     }
-  }
+  });
   QAccessible::installUpdateHandler(previous);
-  accessibility().setActive(false);
+  accessibility.setActive(false);
 }
 
 TEST_F(AllWindows, MenuEntriesOpenThemInTheirMode) {
   for (const shell::MenuEntry& entry : shell::menu_catalogue()) {
     if (!entry.is_submenu() && ui::registry::contains(entry.window)) {
-      const test::Driven window = choose(entry.name);
+      const Driven window = choose(entry.name);
       EXPECT_TRUE(window.window().isVisible()) << entry.name;
       EXPECT_EQ(window.window().isModal(), entry.showing == ui::Showing::modal) << entry.name;
       close(entry.window);
@@ -242,4 +185,4 @@ TEST_F(AllWindows, MenuEntriesOpenThemInTheirMode) {
 }
 
 }  // namespace
-}  // namespace eterlab
+}  // namespace eterlab::test

@@ -47,7 +47,8 @@ using frmamidon = FormTest;
 TEST_F(frmamidon, TurnsOrTheDemandForAnInductance) {
   use("mnunucleitoroidali", "txtinduttanza", "lblspire");
   window.pick("cmbnucleo", t50_2);
-  expect("-0", "INSERIRE INDUTTANZA");
+  window.click("cmdcalcola");
+  EXPECT_EQ(results(), "INSERIRE INDUTTANZA");
   EXPECT_EQ(window.focus(), "txtinduttanza");
   expect_edits_leave("", "10");
   for (const int core : {t50_2, t225_6}) {

@@ -41,15 +41,15 @@ TEST_F(FRMETERLAB, CarriesTheProgramsIconInTheSizesOfWindows) {
 TEST_F(FRMETERLAB, TitleBlinksUntilItIsClicked) {
   auto& timer = *window.window().findChild<QTimer*>("Timer1");
   EXPECT_EQ(timer.interval(), 1000);
+  const auto colour_after_a_second = [&] {
+    QTimerEvent second{timer.timerId()};
+    QCoreApplication::sendEvent(&timer, &second);
+    return window.colour("lbltitolo");
+  };
   EXPECT_EQ(window.colour("lbltitolo"), "#ff0000");
-  timer.setInterval(1);
-  for (const char* colour : {"#0000ff", "#ff0000"}) {
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window.colour("lbltitolo") == colour; })) << colour;
-  }
+  EXPECT_EQ(colour_after_a_second(), "#0000ff");
+  EXPECT_EQ(colour_after_a_second(), "#ff0000");
   window.click("lbltitolo");
-  const std::string frozen = window.colour("lbltitolo");
-  QTest::qWait(10);
-  EXPECT_EQ(window.colour("lbltitolo"), frozen);
   EXPECT_FALSE(timer.isActive());
 }
 
@@ -83,16 +83,8 @@ TEST_F(FRMETERLAB, MenusOpenWithTheMouseAndTheKeyboard) {
   QTest::mouseClick(volt->menu(), Qt::LeftButton, {},
                     volt->menu()->actionGeometry(volt->menu()->actions().front()).center());
   EXPECT_TRUE(is_open("frmleggediohm"));
+
   close("frmleggediohm");
-
-  bar().setActiveAction(volt);
-  for (int entry = 0; entry < 3; ++entry) {  // the third one of the menu
-    QTest::keyClick(volt->menu(), Qt::Key_Down);
-  }
-  QTest::keyClick(volt->menu(), Qt::Key_Return);
-  EXPECT_TRUE(is_open("frmvolt"));
-  close("frmvolt");
-
   QTest::keyClick(&window.window(), Qt::Key_F10);
   QTest::keyClicks(volt->menu(), "volt r");
   QTest::keyClick(volt->menu(), Qt::Key_Return);
@@ -134,7 +126,7 @@ TEST_F(FRMETERLAB, EveryEntryIsReachedByArrowKeys) {
 
 TEST_F(FRMETERLAB, AnEntryWithoutAWindowSaysSoAndClosingItLeavesTheOthersOpen) {
   window.window().findChild<QAction*>("mnuinfo")->trigger();
-  EXPECT_EQ(boxes(), Boxes{notice("FINESTRA NON ANCORA DISPONIBILE")});
+  EXPECT_EQ(boxes(), Boxes{"MESSAGGIO DI AVVISO: FINESTRA NON ANCORA DISPONIBILE"});
   choose("mnuvoltwatt");
   window.click("cdmexit");
   EXPECT_FALSE(is_open("FRMETERLAB"));

@@ -1,7 +1,5 @@
 #include "support/form_test.h"
 
-#include <QStringList>
-
 #include "ui/text.h"
 
 namespace eterlab::test {
@@ -30,8 +28,13 @@ void FormTest::expect_refusal(std::string_view typed, std::string_view focus, st
   SCOPED_TRACE(typed);
   window.type(boxes_, typed);
   const std::string before = results();
-  window.press(Qt::Key_Return);
-  EXPECT_EQ(boxes(), Boxes{std::string{title} + ": " + std::string{text}});
+  Boxes messages = boxes();
+  if (messages.empty()) {  // none came as the user typed
+    window.window().setFocus();
+    window.press(Qt::Key_Return);
+    messages = boxes();
+  }
+  EXPECT_EQ(messages, Boxes{std::string{title} + ": " + std::string{text}});
   EXPECT_EQ(window.focus(), focus);
   EXPECT_EQ(results(), before);
 }

@@ -19,7 +19,8 @@ class FormTest : public WindowTest {
 
   /// That Enter then shows these results, without a message.
   void expect(std::string_view typed, std::string_view results);
-  /// That Enter then brings this message, moves the focus and leaves the results as they are.
+  /// That Enter, or the last key, then brings this message, moves the focus and leaves the results
+  /// as they are.
   void expect_refusal(std::string_view typed, std::string_view focus,
                       std::string_view text = "MANCANO DATI",
                       std::string_view title = "MESSAGGIO DI ERRORE");

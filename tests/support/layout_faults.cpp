@@ -6,16 +6,14 @@
 #include <QPixmap>
 #include <QRegion>
 
+#include "support/window_test.h"
 #include "ui/schematic.h"
-#include "ui/text.h"
 
 namespace eterlab::test {
 
 namespace {
 
 constexpr QSize screen{1280, 1024};
-
-std::string name_of(const QWidget& widget) { return ui::from_qt(widget.objectName()); }
 
 std::string text_of(QSize size) {
   return std::to_string(size.width()) + "x" + std::to_string(size.height());

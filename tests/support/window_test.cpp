@@ -4,7 +4,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
-#include <QMessageBox>
 #include <QPrinter>
 #include <QPushButton>
 #include <QTest>
@@ -17,6 +16,7 @@
 #include "common/regional_settings.h"
 #include "shell/menu_catalogue.h"
 #include "ui/printing.h"
+#include "ui/registry.h"
 #include "ui/text.h"
 
 namespace eterlab::test {
@@ -24,19 +24,25 @@ namespace eterlab::test {
 using ui::from_qt;
 using ui::to_qt;
 
-std::string error(std::string_view text) { return "MESSAGGIO DI ERRORE: " + std::string{text}; }
-std::string notice(std::string_view text) { return "MESSAGGIO DI AVVISO: " + std::string{text}; }
-
-BoxWatcher::BoxWatcher() { qApp->installEventFilter(this); }
+BoxWatcher::BoxWatcher() : answer{[](QMessageBox& box) { box.button(QMessageBox::Ok)->click(); }} {
+  qApp->installEventFilter(this);
+}
 
 bool BoxWatcher::eventFilter(QObject* watched, QEvent* event) {
   auto* box = qobject_cast<QMessageBox*>(watched);
   if (box != nullptr && event->type() == QEvent::Show) {
     const char* mark = box->icon() == QMessageBox::Critical ? "! " : "";
     boxes.push_back(from_qt(mark + box->windowTitle() + ": " + box->text()));
-    QTimer::singleShot(0, box, [box] { box->button(QMessageBox::Ok)->click(); });
+    QTimer::singleShot(0, box, [this, box] { answer(*box); });
   }
   return false;
+}
+
+std::string name_of(const QWidget& widget) { return from_qt(widget.objectName()); }
+
+const Texts& windows() {
+  static const Texts names = ui::registry::names();
+  return names;
 }
 
 QWidget& Driven::control(std::string_view name) const {
@@ -71,8 +77,8 @@ void Driven::click(std::string_view name) const {
   QTest::mouseClick(&control(name), Qt::LeftButton);
 }
 
-void Driven::pick(std::string_view name, int entry) const {
-  auto& box = dynamic_cast<QComboBox&>(control(name));
+void Driven::pick(std::string_view combo_box, int entry) const {
+  auto& box = dynamic_cast<QComboBox&>(control(combo_box));
   box.setFocus();
   QTest::keyClick(&box, Qt::Key_Down, Qt::AltModifier);
   const QModelIndex index = box.model()->index(entry, box.modelColumn());
@@ -105,10 +111,11 @@ std::string Driven::colour(std::string_view name) const {
 
 std::string Driven::focus() const {
   const QWidget* focused = window_->focusWidget();
-  return focused == nullptr ? "" : from_qt(focused->objectName());
+  return focused == nullptr ? "" : name_of(*focused);
 }
 
 WindowTest::WindowTest() {
+  windows();  // before the test adds its own
   set_regional_settings({",", ".", 3, 3, 2});
   ui::set_printer_source([] { return std::unique_ptr<QPrinter>{}; });
   start_anew();
@@ -120,6 +127,20 @@ void WindowTest::start_anew() {
   has_ended_ = false;
   desktop_.emplace([this] { has_ended_ = true; });
   desktop_->show("FRMETERLAB");
+}
+
+ui::Window& WindowTest::open(std::string_view window) {
+  desktop_->show(window);
+  settle();
+  return dynamic_cast<ui::Window&>(driven(window).window());
+}
+
+void WindowTest::for_each_window(const std::function<void(ui::Window&)>& check) {
+  for (const std::string& name : windows()) {
+    SCOPED_TRACE(name);
+    start_anew();
+    check(open(name));
+  }
 }
 
 Driven WindowTest::choose(std::string_view menu_entry) {
@@ -151,6 +172,7 @@ void WindowTest::settle() {
   for (int pass = 0; pass < 3; ++pass) {
     QApplication::processEvents();
   }
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 void WindowTest::close(std::string_view window) { driven(window).window().close(); }

@@ -2,25 +2,24 @@
 
 #include <gtest/gtest.h>
 
+#include <QMessageBox>
 #include <QObject>
-#include <QPoint>
-#include <QString>
 #include <QWidget>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "ui/desktop.h"
-#include "ui/showing.h"
 #include "ui/window.h"
 
 namespace eterlab::test {
 
+using Texts = std::vector<std::string>;
+
 /// Message boxes as texts: "MESSAGGIO DI ERRORE: MANCANO DATI", critical ones with "! " before.
-using Boxes = std::vector<std::string>;
-std::string error(std::string_view text);  ///< the usual title
-std::string notice(std::string_view text);
+using Boxes = Texts;
 
 /// Records message boxes and answers them, so that a test can go on.
 class BoxWatcher final : public QObject {
@@ -28,7 +27,13 @@ class BoxWatcher final : public QObject {
   BoxWatcher();
   bool eventFilter(QObject* watched, QEvent* event) override;
   Boxes boxes;
+  std::function<void(QMessageBox&)> answer;
 };
+
+[[nodiscard]] std::string name_of(const QWidget& widget);
+
+/// The names of the program's windows, without those that a test makes up.
+const Texts& windows();
 
 /// A window as a user has it before him: controls are found by their names, used with key and mouse
 /// events, and read. Several names are one text with blanks between them, their contents one with
@@ -69,18 +74,26 @@ class WindowTest : public ::testing::Test {
  protected:
   WindowTest();
 
+  /// Opens a window by its name.
+  ui::Window& open(std::string_view window);
+  /// Opens every window of the program, each in the program anew.
+  void for_each_window(const std::function<void(ui::Window&)>& check);
   /// Chooses an entry of the main window's menu bar and gives the window that it opened.
   Driven choose(std::string_view menu_entry);
   Driven main_window() { return driven("FRMETERLAB"); }
   Driven driven(std::string_view window);
   [[nodiscard]] bool is_open(std::string_view window) const;
   void close(std::string_view window);
-  /// Lets the event loop do what it was asked for. A text that grows inside a frame moves first the
-  /// frame's layout, then the window's.
+  /// Lets the event loop do what it was asked for, and destroy what was closed. A text that grows
+  /// inside a frame moves first the frame's layout, then the window's.
   static void settle();
 
   /// The boxes since the last call.
   Boxes boxes();
+  /// Boxes are answered so instead of by a click on OK.
+  void answer_boxes(std::function<void(QMessageBox&)> answer) {
+    watcher_.answer = std::move(answer);
+  }
   [[nodiscard]] bool has_ended() const { return has_ended_; }
   void start_anew();
   ui::Desktop& desktop() { return *desktop_; }

@@ -67,7 +67,7 @@ TEST_F(Printing, OfADarkDesktopIsInTheColoursOfPaper) {
 TEST_F(Printing, WithoutAPrinterItSaysSoAndGoesOn) {
   window.type("txtf", "7");
   window.click("cmdstampa");
-  EXPECT_EQ(boxes(), Boxes{error("NESSUNA STAMPANTE DISPONIBILE")});
+  EXPECT_EQ(boxes(), Boxes{"MESSAGGIO DI ERRORE: NESSUNA STAMPANTE DISPONIBILE"});
   EXPECT_EQ(window.text("txtf"), "7");
 }
 
@@ -75,7 +75,7 @@ TEST_F(Printing, APrinterThatDoesNotTakeThePage) {
   print_to(folder.filePath("missing/scheda.pdf"));
   const Driven band_pass = choose("mnupbk");
   EXPECT_NONFATAL_FAILURE(band_pass.click("Command1"), "QPainter::begin");  // the toolkit grumbles
-  EXPECT_EQ(boxes(), Boxes{error("STAMPA NON RIUSCITA")});
+  EXPECT_EQ(boxes(), Boxes{"MESSAGGIO DI ERRORE: STAMPA NON RIUSCITA"});
 }
 
 }  // namespace

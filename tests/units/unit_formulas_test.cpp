@@ -24,6 +24,7 @@ TEST(Temperature, KelvinInSinglePrecision) {
 TEST(Locator, OfPlaces) {
   const std::tuple<double, double, const char*> table[] = {
       {10, 44, "JN53AX"},  // 13.4 in single precision is just below itself: the cell to the south
+      {0, -83, "JA07AA"},  // 0.7 likewise, but its tenfold is 7 in single precision
       {-70.65, -33.45, "FF46QN"},
       {-180, -90, "AA00AA"},
       // Off the globe: beyond the letter R, before the letter A, and beyond all characters.
