@@ -33,7 +33,7 @@ double heap_in_use_kib() {
 #endif
   return static_cast<double>(bytes) / 1024;
 }
-constexpr double noise_kib = ETERLAB_SANITIZED ? 16 : 128;
+constexpr double noise_kib = ETERLAB_SANITIZED ? 16 : 192;
 
 class Soak : public WindowTest, public ::testing::WithParamInterface<std::string> {
  protected:
