@@ -72,7 +72,7 @@ class frmdipoloripiegato final : public ui::Window {
     // The tubes and the straps that join their ends.
     drawing.box({4, 5}, {62, 6.6});
     drawing.box({4, 12.1}, {32, 12.9}).box({34, 12.1}, {62, 12.9});
-    drawing.box({4, 6.6}, {4.6, 12.1}).box({61.4, 6.6}, {62, 12.1});
+    drawing.box({4, 6.6}, {4.68, 12.1}).box({61.32, 6.6}, {62, 12.1});
     drawing.arrow({13, 3.2}, {13, 5}).arrow({13, 8.4}, {13, 6.6});
     drawing.label(lbld2, {13, 8}, Side::right);
     drawing.arrow({13, 10.3}, {13, 12.1}).arrow({13, 14.7}, {13, 12.9});

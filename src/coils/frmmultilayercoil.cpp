@@ -89,7 +89,7 @@ class frmmultilayercoil final : public ui::Window {
           .wire({{right, axis + side * inner}, {right, axis + side * flange}});
       for (int turn = 0; turn < 10; ++turn) {
         for (int layer = 0; layer < 3; ++layer) {
-          sketch.circle({left + 1 + turn * 1.55, axis + side * (inner + 0.9 + layer * 1.6)}, 0.75);
+          sketch.circle({left + 0.8 + turn * 1.6, axis + side * (inner + 0.9 + layer * 1.6)}, 0.65);
         }
       }
     }

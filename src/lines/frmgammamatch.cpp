@@ -48,6 +48,7 @@ class frmgammamatch final : public ui::Window {
     constexpr double stub = 13;
     constexpr double shield = 12;       // goes to the centre of the radiator
     constexpr double inner = 15;        // conductor of the cable
+    constexpr double jacket = 1.1;      // its distance from there
     constexpr double cable_end = 21.8;  // within the drawing with its whole stroke
     constexpr double near_end = 21;
     constexpr double insulator = 25;
@@ -59,8 +60,8 @@ class frmgammamatch final : public ui::Window {
         .rod({{near_end, stub}, {strap + 2, stub}})
         .wire({{strap, radiator}, {strap, stub}})
         .box({insulator, radiator}, {insulator + 1.2, stub})
-        .box({inner - 1, 16.5}, {inner + 1, cable_end})
-        .wire({{shield, radiator}, {shield, 17.5}, {inner - 1, 17.5}})
+        .box({inner - jacket, 16.5}, {inner + jacket, cable_end})
+        .wire({{shield, radiator}, {shield, 17.5}, {inner - jacket, 17.5}})
         .wire({{inner, cable_end}, {inner, stub}})
         .capacitor({inner, stub}, {near_end, stub})
         .dimension({spacing, radiator + 0.3}, {spacing, stub - 0.3})

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOption>
@@ -23,8 +24,8 @@ using At = Schematic::At;
 
 // Widths of lines, in grid steps.
 constexpr double line_width = 0.19;
-constexpr double thin_line_width = 0.12;
 constexpr double rod_width = 0.5;
+constexpr double thin_line_share = 0.63;  // of the width of the other lines
 
 QPointF point(At at) { return {at.x, at.y}; }
 
@@ -41,13 +42,17 @@ void add_line(QPainterPath& path, QPointF from, QPointF to) {
   path.lineTo(to);
 }
 
-/// From the x axis at the origin to the line between two points.
-QTransform along(At from, At to) {
+/// From the direction of the x axis to that from one point to another.
+QTransform towards(At from, At to) {
   constexpr double degrees_in_radian = 57.29577951308232;
   const QPointF span = point(to) - point(from);
-  const QPointF middle = (point(from) + point(to)) / 2;
-  return QTransform::fromTranslate(middle.x(), middle.y())
-      .rotate(std::atan2(span.y(), span.x()) * degrees_in_radian);
+  return QTransform{}.rotate(std::atan2(span.y(), span.x()) * degrees_in_radian);
+}
+
+QPainterPath ring(double radius) {
+  QPainterPath path;
+  path.addEllipse({}, radius, radius);
+  return path;
 }
 
 /// A diode's triangle and the start of its bar, pointing along the x axis.
@@ -66,7 +71,6 @@ Schematic::Schematic(Parent parent, std::string_view name, int columns, int rows
     : QWidget{parent.widget()}, columns_{columns}, rows_{rows} {
   set_up(*this, name, tip);
   setFixedSize(sizeHint());
-  solids_.setFillRule(Qt::WindingFill);
 }
 
 double Schematic::step() { return theme::spacing() / 2.0; }
@@ -77,17 +81,17 @@ QSize Schematic::sizeHint() const {
 }
 
 Schematic& Schematic::wire(std::initializer_list<At> corners) {
-  lines_.push_back(polyline(corners));
+  lines_.push_back({{}, polyline(corners)});
   return *this;
 }
 
 Schematic& Schematic::dashed(std::initializer_list<At> corners) {
-  dashed_lines_.push_back(polyline(corners));
+  dashed_lines_.push_back({{}, polyline(corners)});
   return *this;
 }
 
 Schematic& Schematic::rod(std::initializer_list<At> corners) {
-  rods_.push_back(polyline(corners));
+  rods_.push_back({{}, polyline(corners)});
   return *this;
 }
 
@@ -98,7 +102,7 @@ Schematic& Schematic::dimension(At from, At to) {
 }
 
 Schematic& Schematic::arrow(At from, At to) {
-  thin_lines_.push_back(polyline({from, to}));
+  thin_lines_.push_back({{}, polyline({from, to})});
   arrow_head(from, to);
   return *this;
 }
@@ -113,27 +117,40 @@ void Schematic::arrow_head(At from, At to) {
   }
   const QPointF back = span / distance * -length;
   const QPointF across{back.y() / length * half_width, -back.x() / length * half_width};
-  const QPointF tip = point(to);
-  solids_.addPolygon(QPolygonF{{tip, tip + back + across, tip + back - across, tip}});
+  QPainterPath head;
+  head.addPolygon(QPolygonF{{{}, back + across, back - across, {}}});
+  heads_.push_back({point(to), head, Fit::exact});
 }
 
 Schematic& Schematic::circle(At centre, double radius) {
-  lines_.emplace_back().addEllipse(point(centre), radius, radius);
+  lines_.push_back({point(centre), ring(radius), Fit::exact});
   return *this;
 }
 
 Schematic& Schematic::box(At top_left, At bottom_right) {
-  lines_.emplace_back().addRect(QRectF{point(top_left), point(bottom_right)});
+  QPainterPath path;
+  path.addRect(QRectF{point(top_left), point(bottom_right)});
+  lines_.push_back({{}, path});
   return *this;
 }
 
-void Schematic::part(At from, At to, double half, const QPainterPath& outline,
-                     const QPainterPath& filled) {
-  const QTransform placed = along(from, to);
-  lines_.push_back(placed.map(outline));
-  solids_.addPath(placed.map(filled));
-  add_line(lines_.emplace_back(), point(from), placed.map(QPointF{-half, 0}));
-  add_line(lines_.emplace_back(), placed.map(QPointF{half, 0}), point(to));
+void Schematic::part(At from, At to, double half, const QPainterPath& outline, Fit fit) {
+  const QPointF symbol = (point(from) + point(to)) / 2;
+  const QTransform turned = towards(from, to);
+  lines_.push_back({symbol, turned.map(outline), fit});
+  lead(from, symbol, turned.map(QPointF{-half, 0}));
+  lead(to, symbol, turned.map(QPointF{half, 0}));
+}
+
+void Schematic::lead(At from, QPointF symbol, QPointF edge) {
+  // Of two halves, one stands on the pixels as wires do, the other as the symbol does.
+  const QPointF half_way = (point(from) - symbol + edge) / 2;
+  QPainterPath wire_half;
+  add_line(wire_half, point(from), symbol + half_way);
+  lines_.push_back({{}, wire_half});
+  QPainterPath symbol_half;
+  add_line(symbol_half, half_way, edge);
+  lines_.push_back({symbol, symbol_half, Fit::symbol});
 }
 
 Schematic& Schematic::resistor(At from, At to) {
@@ -156,29 +173,30 @@ Schematic& Schematic::capacitor(At from, At to) {
 }
 
 Schematic& Schematic::electrolytic(At from, At to) {
-  constexpr double half_gap = 0.55;
+  constexpr double half_gap = 0.65;
   constexpr double half_plate = 1.3;
-  constexpr double thickness = 0.45;
+  constexpr double thickness = 0.47;
   QPainterPath outline;
   outline.addRect(-half_gap, -half_plate, thickness, 2 * half_plate);
   // The sign of the positive plate, beside it.
   add_line(outline, {-1.9, -1.1}, {-1.1, -1.1});
   add_line(outline, {-1.5, -1.5}, {-1.5, -0.7});
-  QPainterPath negative_plate;
-  negative_plate.addRect(half_gap - thickness, -half_plate, thickness, 2 * half_plate);
-  part(from, to, half_gap, outline, negative_plate);
+  for (const double x : {0.36, 0.45, 0.54}) {  // side by side, the solid negative plate
+    add_line(outline, {x, -half_plate}, {x, half_plate});
+  }
+  part(from, to, half_gap, outline);
   return *this;
 }
 
 Schematic& Schematic::inductor(At from, At to) {
   constexpr int humps = 4;
-  constexpr double hump = 1;
+  constexpr double hump = 1.2;
   constexpr double half = humps * hump / 2;
   QPainterPath outline{{-half, 0}};
   for (int i = 0; i < humps; ++i) {
     outline.arcTo(-half + i * hump, -hump / 2, hump, hump, 180, -180);
   }
-  part(from, to, half, outline);
+  part(from, to, half, outline, Fit::exact);
   return *this;
 }
 
@@ -195,39 +213,44 @@ Schematic& Schematic::zener(At from, At to) {
 }
 
 Schematic& Schematic::led(At from, At to) {
-  QPainterPath outline = diode_outline();
+  diode(from, to);
+  QPainterPath rays;
   QPainterPath heads;
   for (const double x : {-0.3, 0.6}) {  // two rays of light
-    const QPointF tip{x + 0.8, -2.5};
-    add_line(outline, {x, -1.3}, tip);
+    const QPointF tip{x + 0.8, -2.7};
+    add_line(rays, {x, -1.5}, {x + 0.4, -2.1});
     heads.addPolygon(QPolygonF{{tip, tip + QPointF{-0.65, 0.3}, tip + QPointF{-0.05, 0.75}, tip}});
   }
-  part(from, to, diode_half, outline, heads);
+  const QPointF symbol = (point(from) + point(to)) / 2;
+  const QTransform turned = towards(from, to);
+  lines_.push_back({symbol, turned.map(rays), Fit::exact});
+  solids_.push_back({symbol, turned.map(heads), Fit::exact});
   return *this;
 }
 
 Schematic& Schematic::ground(At place) {
   constexpr double stem = 0.8;
-  constexpr double gap = 0.45;
-  lines_.push_back(polyline({place, {place.x, place.y + stem}}));
-  double half = 1.2;
-  for (int bar = 0; bar < 3; ++bar) {
-    const double y = place.y + stem + bar * gap;
-    lines_.push_back(polyline({{place.x - half, y}, {place.x + half, y}}));
-    half -= 0.4;
+  constexpr double gap = 0.55;
+  const QPointF symbol = point(place) + QPointF{0, stem + gap};
+  QPainterPath bars;
+  for (const int bar : {-1, 0, 1}) {
+    const double half = 0.8 - bar * 0.4;
+    add_line(bars, {-half, bar * gap}, {half, bar * gap});
   }
+  lines_.push_back({symbol, bars, Fit::symbol});
+  lead(place, symbol, {0, -gap});
   return *this;
 }
 
 Schematic& Schematic::terminal(At place) {
-  constexpr double radius = 0.35;
-  terminals_.emplace_back().addEllipse(point(place), radius, radius);
+  constexpr double radius = 0.4;
+  terminals_.push_back({point(place), ring(radius), Fit::exact});
   return *this;
 }
 
 Schematic& Schematic::junction(At place) {
-  constexpr double radius = 0.3;
-  solids_.addEllipse(point(place), radius, radius);
+  constexpr double radius = 0.4;
+  solids_.push_back({point(place), ring(radius), Fit::exact});
   return *this;
 }
 
@@ -237,18 +260,18 @@ Schematic& Schematic::mark(At place, std::string_view text) {
 }
 
 Schematic& Schematic::winding(At from, At to, double diameter, int turns) {
-  const QTransform placed = along(from, to);
+  const QTransform turned = towards(from, to);
   const double length = std::hypot(to.x - from.x, to.y - from.y);
   const double pitch = length / turns;
   const double radius = diameter / 2;
   for (int turn = 0; turn < turns; ++turn) {
-    const double x = -length / 2 + turn * pitch;
+    const double x = turn * pitch;
     QPainterPath front{{x, radius}};
     front.cubicTo(x - pitch * 0.3, radius, x + pitch * 0.2, -radius, x + pitch / 2, -radius);
     QPainterPath back{front.currentPosition()};
     back.cubicTo(x + pitch * 0.8, -radius, x + pitch * 0.9, radius, x + pitch, radius);
-    lines_.push_back(placed.map(front));
-    thin_lines_.push_back(placed.map(back));
+    lines_.push_back({point(from), turned.map(front), Fit::exact});
+    thin_curves_.push_back({point(from), turned.map(back), Fit::exact});
   }
   return *this;
 }
@@ -263,13 +286,13 @@ Schematic& Schematic::spiral(At centre, double inner_radius, double outer_radius
     const double radius = inner_radius + arc_rise * arc;
     const QPointF outwards{std::cos(arc_angle * arc), std::sin(arc_angle * arc)};
     const QPointF onwards{-outwards.y(), outwards.x()};
-    const QPointF place = point(centre) + outwards * radius;
+    const QPointF place = outwards * radius;
     const QPointF third = (outwards * arc_rise + onwards * (radius * arc_angle)) / 3;
     if (arc > 0) {
-      lines_.back().cubicTo(handle, place - third, place);
+      lines_.back().path.cubicTo(handle, place - third, place);
     }
     if (arc < arcs && arc % arcs_in_turn == 0) {
-      lines_.emplace_back(place);
+      lines_.push_back({point(centre), QPainterPath{place}, Fit::exact});
     }
     handle = place + third;
   }
@@ -337,30 +360,75 @@ void Schematic::keyPressEvent(QKeyEvent* event) {
   }
 }
 
+void Schematic::paint_shapes(QPainter& painter) const {
+  // On a screen straight lines cover whole pixels, so that they are even and sharp. What is
+  // recorded for a printer has no pixels yet.
+  const bool has_pixels = painter.paintEngine()->type() != QPaintEngine::Picture;
+  const auto whole = [&](double x) { return has_pixels ? std::round(x) : x; };
+  const auto whole_pixels = [&](QPointF at) { return QPointF{whole(at.x()), whole(at.y())}; };
+
+  // All is painted in pixels. Besides, the toolkit cuts curves shorter than a unit into very small
+  // pieces: a step is too long for one.
+  const QTransform to_pixels = painter.deviceTransform();
+  const QPointF corner = whole_pixels({to_pixels.dx(), to_pixels.dy()});
+  const double scale = step() * to_pixels.m11();
+  const auto draw = [&](const Shapes& shapes, double width) {
+    // The middle of a line an odd number of pixels wide is that of a pixel.
+    const double odd_half = has_pixels ? std::fmod(width, 2) / 2 : 0;
+    const QPointF half{odd_half, odd_half};
+    const auto on_grid = [&](QPointF at) { return whole_pixels(at - half) + half; };
+    for (const Shape& shape : shapes) {
+      QPainterPath path = QTransform::fromScale(scale, scale).map(shape.path);
+      for (int i = 0; shape.fit != Fit::exact && i < path.elementCount(); ++i) {
+        const QPointF at = path.elementAt(i);
+        const QPointF fitted = shape.fit == Fit::grid ? on_grid(at) : whole_pixels(at);
+        path.setElementPositionAt(i, fitted.x(), fitted.y());
+      }
+      const QPointF place = shape.fit == Fit::grid ? QPointF{} : on_grid(shape.place * scale);
+      path.translate(corner + place);
+      painter.drawPath(path);
+    }
+  };
+
+  const QColor ink = palette().color(foregroundRole());
+  // No thinner than it should be, but for a slight excess.
+  const auto in_pixels = [&](double width) {
+    return has_pixels ? std::ceil(width * scale - 0.1) : width * scale;
+  };
+  const double line = in_pixels(line_width);
+  const double thin = whole(line * thin_line_share);
+  const double rod = in_pixels(rod_width);
+  const auto set_pen = [&](double width, Qt::PenCapStyle cap) {
+    painter.setPen(QPen{ink, width, Qt::SolidLine, cap, Qt::MiterJoin});
+  };
+  painter.save();
+  painter.setWorldTransform(to_pixels.inverted());
+  set_pen(thin, Qt::FlatCap);
+  draw(thin_lines_, thin);
+  draw(thin_curves_, line);
+  QPen dashes{ink, thin, Qt::CustomDashLine, Qt::SquareCap};
+  dashes.setDashPattern({3, 3});
+  painter.setPen(dashes);
+  draw(dashed_lines_, thin);
+  set_pen(line, Qt::SquareCap);
+  draw(lines_, line);
+  set_pen(rod, Qt::FlatCap);
+  draw(rods_, rod);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(ink);
+  draw(heads_, thin);
+  draw(solids_, line);
+  set_pen(line, Qt::FlatCap);
+  painter.setBrush(palette().window());  // over the ends of wires
+  draw(terminals_, line);
+  painter.restore();
+}
+
 void Schematic::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter{this};
   painter.setRenderHint(QPainter::Antialiasing);
-  const QColor ink = palette().color(foregroundRole());
-
-  // The toolkit cuts curves shorter than a unit into very small pieces: a step is too long for one.
-  const QTransform to_pixels = QTransform::fromScale(step(), step());
-  const auto stroke = [&](const Lines& lines, double width, Qt::PenStyle style, Qt::PenCapStyle cap,
-                          const QBrush& inside = Qt::NoBrush) {
-    painter.setBrush(inside);
-    painter.setPen(QPen{ink, width * step(), style, cap, Qt::MiterJoin});
-    for (const QPainterPath& line : lines) {
-      painter.drawPath(to_pixels.map(line));
-    }
-  };
-  stroke(thin_lines_, thin_line_width, Qt::SolidLine, Qt::FlatCap);
-  stroke(dashed_lines_, thin_line_width, Qt::DashLine, Qt::FlatCap);
-  stroke(lines_, line_width, Qt::SolidLine, Qt::SquareCap);
-  stroke(rods_, rod_width, Qt::SolidLine, Qt::FlatCap);
-  painter.fillPath(to_pixels.map(solids_), ink);
-  const QBrush ground = palette().window();  // over the ends of wires
-  stroke(terminals_, line_width, Qt::SolidLine, Qt::FlatCap, ground);
-
-  painter.setPen(ink);
+  paint_shapes(painter);
+  painter.setPen(palette().color(foregroundRole()));
   for (const Mark& mark : marks_) {
     QRectF around{0, 0, width() * 1.0, 4 * step()};
     around.moveCenter(point(mark.place) * step());

@@ -87,24 +87,40 @@ class Schematic final : public QWidget {
     QString text;
   };
 
+  /// How a shape meets the pixels of a screen.
+  enum class Fit : std::uint8_t {
+    grid,    ///< straight lines between places of the grid: all corners on whole pixels
+    symbol,  ///< straight lines around a place: all on whole pixels, as symmetric as they are
+    exact,   ///< its place on whole pixels, the shape itself true to its form
+  };
+  struct Shape {
+    QPointF place;  ///< that the path is seen from
+    QPainterPath path;
+    Fit fit = Fit::grid;
+  };
+  // Each line is a shape of its own: to paint many as one takes the toolkit far longer.
+  using Shapes = std::vector<Shape>;
+
   /// Draws a symbol that is laid out along the x axis, centred on the origin, and its two wires.
   /// `half` is half the length of the symbol.
-  void part(At from, At to, double half, const QPainterPath& outline,
-            const QPainterPath& filled = {});
+  void part(At from, At to, double half, const QPainterPath& outline, Fit fit = Fit::symbol);
+  /// The wire to a symbol with its middle at a place, and an edge seen from there.
+  void lead(At from, QPointF symbol, QPointF edge);
   void arrow_head(At from, At to);
+  void paint_shapes(QPainter& painter) const;
   void place_labels();
   [[nodiscard]] static double step();
 
   int columns_;
   int rows_;
-  // Each line is a path of its own: to paint many as one takes the toolkit far longer.
-  using Lines = std::vector<QPainterPath>;
-  Lines lines_;
-  Lines thin_lines_;
-  Lines dashed_lines_;
-  Lines rods_;
-  Lines terminals_;
-  QPainterPath solids_;
+  Shapes lines_;
+  Shapes thin_lines_;
+  Shapes thin_curves_;  ///< between curves among the lines
+  Shapes dashed_lines_;
+  Shapes rods_;
+  Shapes heads_;   ///< of arrows
+  Shapes solids_;  ///< other filled shapes
+  Shapes terminals_;
   std::vector<Mark> marks_;
   std::vector<Placed> labels_;
   Handler click_handler_;
