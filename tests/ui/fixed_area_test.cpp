@@ -24,12 +24,14 @@ class Placed final : public ui::Window {
 };
 
 class FixedArea : public WindowTest {
+ public:
+  ~FixedArea() override { QApplication::setFont(usual); }
+
  protected:
   FixedArea() {
     window.show();
     settle();
   }
-  ~FixedArea() override { QApplication::setFont(usual); }
   Placed window;
   const QFont usual = QApplication::font();
 };
