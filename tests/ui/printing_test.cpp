@@ -2,6 +2,7 @@
 
 #include <gtest/gtest-spi.h>
 
+#include <QApplication>
 #include <QFile>
 #include <QPrinter>
 #include <QTemporaryDir>
