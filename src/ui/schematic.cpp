@@ -65,6 +65,27 @@ QPainterPath diode_outline() {
 
 constexpr double diode_half = 0.9;
 
+/// Of a screen. Straight lines cover whole ones, so that they are even and sharp. What is recorded
+/// for a printer has no pixels yet.
+class Pixels {
+ public:
+  explicit Pixels(bool exist) : exist_{exist} {}
+
+  [[nodiscard]] double nearest(double x) const { return exist_ ? std::round(x) : x; }
+  [[nodiscard]] QPointF nearest(QPointF at) const { return {nearest(at.x()), nearest(at.y())}; }
+  /// Of a line, no thinner than it should be, but for a slight excess.
+  [[nodiscard]] double width(double exact) const { return exist_ ? std::ceil(exact - 0.1) : exact; }
+  /// The nearest middle of a line: of a pixel where the line is an odd number of them wide.
+  [[nodiscard]] QPointF middle(QPointF at, double line) const {
+    const double odd_half = exist_ ? std::fmod(line, 2) / 2 : 0;
+    const QPointF half{odd_half, odd_half};
+    return nearest(at - half) + half;
+  }
+
+ private:
+  bool exist_;
+};
+
 }  // namespace
 
 Schematic::Schematic(Parent parent, std::string_view name, int columns, int rows, Tooltip tip)
@@ -361,43 +382,32 @@ void Schematic::keyPressEvent(QKeyEvent* event) {
 }
 
 void Schematic::paint_shapes(QPainter& painter) const {
-  // On a screen straight lines cover whole pixels, so that they are even and sharp. What is
-  // recorded for a printer has no pixels yet.
-  const bool has_pixels = painter.paintEngine()->type() != QPaintEngine::Picture;
-  const auto whole = [&](double x) { return has_pixels ? std::round(x) : x; };
-  const auto whole_pixels = [&](QPointF at) { return QPointF{whole(at.x()), whole(at.y())}; };
-
+  const Pixels pixels{painter.paintEngine()->type() != QPaintEngine::Picture};
   // All is painted in pixels. Besides, the toolkit cuts curves shorter than a unit into very small
   // pieces: a step is too long for one.
   const QTransform to_pixels = painter.deviceTransform();
-  const QPointF corner = whole_pixels({to_pixels.dx(), to_pixels.dy()});
+  const QPointF corner = pixels.nearest({to_pixels.dx(), to_pixels.dy()});
   const double scale = step() * to_pixels.m11();
   const auto draw = [&](const Shapes& shapes, double width) {
-    // The middle of a line an odd number of pixels wide is that of a pixel.
-    const double odd_half = has_pixels ? std::fmod(width, 2) / 2 : 0;
-    const QPointF half{odd_half, odd_half};
-    const auto on_grid = [&](QPointF at) { return whole_pixels(at - half) + half; };
     for (const Shape& shape : shapes) {
       QPainterPath path = QTransform::fromScale(scale, scale).map(shape.path);
       for (int i = 0; shape.fit != Fit::exact && i < path.elementCount(); ++i) {
         const QPointF at = path.elementAt(i);
-        const QPointF fitted = shape.fit == Fit::grid ? on_grid(at) : whole_pixels(at);
+        const QPointF fitted =
+            shape.fit == Fit::grid ? pixels.middle(at, width) : pixels.nearest(at);
         path.setElementPositionAt(i, fitted.x(), fitted.y());
       }
-      const QPointF place = shape.fit == Fit::grid ? QPointF{} : on_grid(shape.place * scale);
+      const QPointF place =
+          shape.fit == Fit::grid ? QPointF{} : pixels.middle(shape.place * scale, width);
       path.translate(corner + place);
       painter.drawPath(path);
     }
   };
 
   const QColor ink = palette().color(foregroundRole());
-  // No thinner than it should be, but for a slight excess.
-  const auto in_pixels = [&](double width) {
-    return has_pixels ? std::ceil(width * scale - 0.1) : width * scale;
-  };
-  const double line = in_pixels(line_width);
-  const double thin = whole(line * thin_line_share);
-  const double rod = in_pixels(rod_width);
+  const double line = pixels.width(line_width * scale);
+  const double thin = pixels.nearest(line * thin_line_share);
+  const double rod = pixels.width(rod_width * scale);
   const auto set_pen = [&](double width, Qt::PenCapStyle cap) {
     painter.setPen(QPen{ink, width, Qt::SolidLine, cap, Qt::MiterJoin});
   };
