@@ -1,6 +1,6 @@
 #include <array>
 
-#include "circuits/reactance.h"
+#include "circuits/handbook_reactance.h"
 #include "common/number_text.h"
 #include "ui/ui.h"
 
@@ -78,8 +78,8 @@ class frmreattanza final : public ui::Window {
       return;
     }
     const Real reactance_ohm = Option1.selected() == inductive
-                                   ? inductive_reactance_ohm(frequency_mhz, second)
-                                   : capacitive_reactance_ohm(frequency_mhz, second);
+                                   ? handbook_inductive_reactance_ohm(frequency_mhz, second)
+                                   : handbook_capacitive_reactance_ohm(frequency_mhz, second);
     lblinput[3] = fixed(reactance_ohm, 3);
   }
 };

@@ -1,4 +1,4 @@
-#include "circuits/resonance.h"
+#include "circuits/handbook_resonance.h"
 #include "common/number_text.h"
 #include "ui/fixed_area.h"
 #include "ui/ui.h"
@@ -65,7 +65,7 @@ class frmrisonanza final : public ui::Window {
     if (product < 0) {
       return;
     }
-    const Resonance at = resonance(inductance_uh, capacitance_pf);
+    const HandbookResonance at = handbook_resonance(inductance_uh, capacitance_pf);
     lbloutputfrequenza = "Frequenza in Khz  :  " + fixed(at.frequency_khz, 3);
     lbloutputmetri = "Lunghezza d'onda in mt. : " + fixed(at.wavelength_m, 3);
     lbloutputreattanza = "Reattanza XL=XC = " + fixed(at.reactance_ohm) + " Ohm ";

@@ -55,7 +55,7 @@ void ComboBox::on_choose(const Handler& handler) {
 
 void ComboBox::choose(int index) {
   setCurrentIndex(index);
-  emit activated(index);
+  Q_EMIT activated(index);
 }
 
 void ComboBox::choose(std::string_view entry) {

@@ -83,19 +83,6 @@ TEST_F(frmlungharmonica, OfAPositiveProduct) {
   EXPECT_EQ(results(), "L'ANTENNA E' LUNGA  21,00 METRI");
 }
 
-using frmondadiretta = FormTest;
-
-TEST_F(frmondadiretta, KeepsTheLastDistanceWithoutAHeightInRange) {
-  use("mnuondadiretta", "txtaltezza", "lbldistanza");
-  for (const char* height : {"9", "", "abc"}) {
-    expect(height, "LA POSSIBILE DISTANZA E' DI KM: 12");
-  }
-  expect("5000", "LA POSSIBILE DISTANZA E' DI KM: 292");
-  expect_refusal("5000.1", "txtaltezza", "ALTEZZA ECCESSIVA");
-  expect_refusal("-2", "txtaltezza", "MANCA DATO");
-  EXPECT_EQ(results(), "LA POSSIBILE DISTANZA E' DI KM: 292");
-}
-
 using frmvertaccorciata = FormTest;
 
 // Python's decimal with 50 digits, the coil's height and the wavelength narrowed by its struct.

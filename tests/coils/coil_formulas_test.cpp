@@ -4,11 +4,10 @@
 #include <map>
 #include <vector>
 
-#include "coils/copper_wire.h"
 #include "coils/flat_spiral.h"
 #include "coils/multilayer_coil.h"
 #include "coils/single_layer_coil.h"
-#include "coils/toroid_cores.h"
+#include "coils/toroids/toroid_cores.h"
 #include "common/regional_settings.h"
 
 // What the windows leave open: the catalogue of cores, digits that they do not show, ties, limits
@@ -48,8 +47,6 @@ TEST(Coils, FollowTheRegionsDecimals) {
 TEST(Coils, LengthsAreRoundedBeforeTheyAreUsed) {
   // 7.065 m would have 0.6477 ohm.
   EXPECT_NEAR(multilayer_coil(100, 1, 1, 0.05).resistance_ohm.value(), 0.648130, 1e-6);
-  EXPECT_EQ(copper_wire(0.5, 0.0981).resistance_ohm.value(), 0.005378F);  // of 0.06 m, not 0.0562
-  EXPECT_EQ(copper_wire(0.05, 5).resistance_ohm.value(), 2567.535F);      // 2567.535460
 }
 
 double number(std::string_view comma_text) {

@@ -66,36 +66,6 @@ TEST_F(frmmultilayercoil, ResultsAndSketch) {
   EXPECT_EQ(window.text("lblnspirestrato"), "LE SPIRE PER STRATO SONO -20,0");
 }
 
-using frmdimcirclc = FormTest;
-
-// C = 400 / f and L = 63.325 / f, which is 25330 / (f f C), by hand.
-TEST_F(frmdimcirclc, ComputesAsTheUserTypes) {
-  use("mnudimcirclc", "txtfrequenza", "lblcapacita lblinduttanza");
-  expect("-7", "LA CAPACITA' OTTIMALE E'  CIRCA pF -57,1|L'INDUTTANZA IN QUESTO CASO E' µH -9,0");
-  expect("abc", "|");
-  expect_end("1e-200");  // its square is nothing
-  expect("0.2",
-         "LA CAPACITA' OTTIMALE E'  CIRCA pF 2.000,0|L'INDUTTANZA IN QUESTO CASO E' µH 316,6");
-  expect("0", "|");
-}
-
-using frmriduzcondensatori = FormTest;
-
-// 1 / (1 / wanted - 1 / given), by hand.
-TEST_F(frmriduzcondensatori, NanofaradFromAThousandAndOnePicofarad) {
-  use("mnuriduzcondensatori", "txtc1 txtc2", "lblriduzione");
-  expect("470|150", "CAPACITA' DA APPLICARE IN SERIE =  220,3  picoF");
-  expect("-50|-100", "CAPACITA' DA APPLICARE IN SERIE =  100,0  picoF");
-  expect_refusal("|50", "txtc1");
-  expect_refusal("100|-50", "txtc1");
-  const char* const not_larger = "IL PRIMO COND.RE HA SEMPRE LA CAPACITA' MAGGIORE";
-  expect_refusal("100|100", "txtc1", not_larger, "STAI ATTENTO");
-  expect_refusal("-100|-50", "txtc1", not_larger, "STAI ATTENTO");
-  EXPECT_EQ(results(), "CAPACITA' DA APPLICARE IN SERIE =  100,0  picoF");
-  expect("1000.99|500.495", "CAPACITA' DA APPLICARE IN SERIE =  1.001,0  picoF");
-  expect("1001|500.5", "CAPACITA' DA APPLICARE IN SERIE =  1,0  nanoF");
-}
-
 using frminduttanzafilodiritto = FormTest;
 
 TEST_F(frminduttanzafilodiritto, MicrohenryFromOneOnInThePlaceOfTheHint) {
@@ -111,31 +81,6 @@ TEST_F(frminduttanzafilodiritto, MicrohenryFromOneOnInThePlaceOfTheHint) {
   expect("2|100", "L'INDUTTANZA DEL FILO E' microHenry 229,121");
   window.click("cdmesci");
   EXPECT_FALSE(is_open("frminduttanzafilodiritto"));
-}
-
-using frmlunghezzafilo = FormTest;
-
-TEST_F(frmlunghezzafilo, FourResults) {
-  use("mnulunghezzafilo", "txtd txtgrammi", "lblsezione lbllunghezza lblimax lblrtot");
-  expect_refusal("1|", "txtd");
-  expect_refusal("-1|100", "txtd");
-  expect_edits_leave("|||", "1|100");
-  expect("0.5|100",
-         "LA SEZIONE DEL FILO E'  0,196 mmq|LA LUNGHEZZA DEL CONDUTTORE E'  57,29 metri|"
-         "LA CORRENTE MASSIMA AMMESSA E'  0,4909 Amp|"
-         " LA RESISTENZA TOTALE DEL CONDUTTORE E'  5,13525 OHM");
-  const char* const table[][3] = {
-      {"0.1|1000", "lbllunghezza", "LA LUNGHEZZA DEL CONDUTTORE E'  14.322,15 metri"},
-      {"0.1|1000", "lblrtot", " LA RESISTENZA TOTALE DEL CONDUTTORE E'  32094,53 OHM"},
-      {"3|0.5", "lblrtot", " LA RESISTENZA TOTALE DEL CONDUTTORE E'  2,5E-05 OHM"},  // 0.0000249
-      {"0.7136|50", "lblimax", "LA CORRENTE MASSIMA AMMESSA E'  0,9999 Amp"},        // 0.99986
-      {"0.714|50", "lblimax", "LA CORRENTE MASSIMA AMMESSA E'  1,00 Amp"},           // 1.00098
-      {"-1|-100", "lbllunghezza", "LA LUNGHEZZA DEL CONDUTTORE E'  -14,32 metri"},
-  };
-  for (const auto& [typed, label, result] : table) {
-    enter(typed);
-    EXPECT_EQ(window.text(label), result);
-  }
 }
 
 }  // namespace

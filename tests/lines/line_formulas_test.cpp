@@ -4,8 +4,7 @@
 #include <string>
 
 #include "lines/coax_cables.h"
-#include "lines/free_space.h"
-#include "lines/gamma_match.h"
+#include "lines/matching/gamma_match.h"
 
 // What the windows leave open: the catalogue, digits that they do not show, ties and limits.
 
@@ -53,12 +52,6 @@ TEST(CoaxCables, AreFoundByTheirWholeNames) {
   for (const char* name : {"rg 58", "RG 58 ", "RG58", "CAVI RG", ""}) {
     EXPECT_EQ(find_coax_cable(name), nullptr) << name;
   }
-}
-
-// 20 (log10(1000 d) + 1.099 - log10(300 / f)) with forty decimal digits.
-TEST(FreeSpace, ToTheMoonAndBelowZero) {
-  EXPECT_EQ(free_space_path(10000, 384400).attenuation_db, 224.13);
-  EXPECT_EQ(free_space_path(0.001, 0.001).attenuation_db, -87.56);  // -87.56243
 }
 
 // By Python's struct (single precision) and round (ties to even).

@@ -3,20 +3,6 @@
 namespace eterlab::test {
 namespace {
 
-using frmattenuazionetratta = FormTest;
-
-TEST_F(frmattenuazionetratta, PlainNumbersOfTheCountry) {
-  use("mnuattenuazionetratta", "txtdistanza txtfrequenza", "lblattenuazione");
-  const char* const one_metre = "L'ATTENUAZIONE ALLA DISTANZA DI 0,001 KM é 25,15 dB";
-  expect("|432", one_metre);
-  window.type("txtdistanza", "20");
-  EXPECT_EQ(results(), one_metre);  // edits keep the result
-  expect_end("10|");
-  expect_end("-1|145");
-  // 137.52466
-  expect("1234.5|145.5", "L'ATTENUAZIONE ALLA DISTANZA DI 1234,5 KM é 137,52 dB");
-}
-
 using frmcaviRG = FormTest;
 
 // The commas are those of the catalogue, not of the settings. RG 6 has its velocity in the place of

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "units/decibel_microvolt.h"
 #include "units/locator.h"
 #include "units/temperature.h"
 
@@ -8,11 +7,6 @@
 
 namespace eterlab::units {
 namespace {
-
-TEST(DecibelMicrovolt, InHundredths) {
-  EXPECT_EQ(voltage_uv(0.1).value(), 1.01F);
-  EXPECT_THROW(level_dbuv(0), ArithmeticFault);
-}
 
 TEST(Temperature, KelvinInSinglePrecision) {
   EXPECT_EQ(kelvin_from_celsius(0.126).value(), 273.13F);

@@ -1,9 +1,0 @@
-#include "antennas/radio_horizon.h"
-
-namespace eterlab::antennas {
-
-std::int16_t radio_horizon_km(Real antenna_height_m) {
-  return round_to_int16(4.124 * sqrt(antenna_height_m));
-}
-
-}  // namespace eterlab::antennas
