@@ -34,6 +34,19 @@ struct Colour {
   friend constexpr bool operator==(const Colour&, const Colour&) = default;
 };
 
+/// What shows a result and can be emptied: labels of results, plots.
+class Blankable {
+ public:
+  Blankable() = default;
+  virtual ~Blankable() = default;
+  Blankable(const Blankable&) = delete;
+  Blankable& operator=(const Blankable&) = delete;
+  Blankable(Blankable&&) = delete;
+  Blankable& operator=(Blankable&&) = delete;
+
+  virtual void blank() = 0;
+};
+
 /// Gives a control its name and hint, and keeps its place in the layout while it is hidden.
 void set_up(QWidget& control, std::string_view name, Tooltip tip);
 

@@ -92,13 +92,24 @@ class Note final : public Label {
   using Label::operator=;
 };
 
-class Result final : public Label {
+class Result final : public Label, public Blankable {
  public:
   Result(Parent parent, std::string_view name, std::string_view text = {}, Tooltip tip = {})
       : Label{parent, name, text, tip} {
     set_role(Role::result);
   }
   using Label::operator=;
+  void blank() override { *this = ""; }
+};
+
+/// A result at its place on a drawing, which is its parent. (A plain Label there is a fixed text.)
+class Value final : public Label, public Blankable {
+ public:
+  Value(Parent drawing, std::string_view name, Tooltip tip = {}) : Label{drawing, name, {}, tip} {
+    set_role(Role::drawing);
+  }
+  using Label::operator=;
+  void blank() override { *this = ""; }
 };
 
 }  // namespace eterlab::ui
