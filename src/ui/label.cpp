@@ -113,7 +113,7 @@ void Label::set_role(Role role) {
   setFont(theme::font_of(role));
   setForegroundRole(role == Role::note ? QPalette::PlaceholderText : QPalette::WindowText);
   setAlignment(role == Role::drawing ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
-  setTextInteractionFlags(tells_result() ? Qt::TextSelectableByMouse : Qt::NoTextInteraction);
+  setTextInteractionFlags(can_be_copied() ? Qt::TextSelectableByMouse : Qt::NoTextInteraction);
 }
 
 QSize Label::sizeHint() const {
@@ -158,7 +158,7 @@ int Label::at_least_a_line(int height) const {
 }
 
 void Label::contextMenuEvent(QContextMenuEvent* event) {
-  if (!tells_result() || text().isEmpty()) {
+  if (!can_be_copied() || text().isEmpty()) {
     QLabel::contextMenuEvent(event);
     return;
   }

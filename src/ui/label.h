@@ -19,8 +19,9 @@ class Label : public QLabel {
     note,     ///< explanation: quieter, wrapped
     result,   ///< what the window is for: stronger, wrapped, to be selected and copied
     drawing,  ///< on a drawing, centred, to be selected and copied
+    cell,     ///< in a table, to be selected and copied
   };
-  // A new text of the last two is announced to screen readers.
+  // A new text of results and on drawings is announced to screen readers.
 
   Label(Parent parent, std::string_view name, std::string_view text = {}, Tooltip tip = {});
 
@@ -52,6 +53,7 @@ class Label : public QLabel {
 
  private:
   [[nodiscard]] bool tells_result() const;
+  [[nodiscard]] bool can_be_copied() const { return tells_result() || role_ == Role::cell; }
   /// Room for what an empty label will say, so that the window keeps its size then.
   [[nodiscard]] int at_least_a_line(int height) const;
   void announce();
@@ -105,11 +107,16 @@ class Result final : public Label, public Blankable {
 /// A result at its place on a drawing, which is its parent. (A plain Label there is a fixed text.)
 class Value final : public Label, public Blankable {
  public:
-  Value(Parent drawing, std::string_view name, Tooltip tip = {}) : Label{drawing, name, {}, tip} {
+  /// Without a result it is empty, or shows a letter.
+  Value(Parent drawing, std::string_view name, std::string_view letter = {}, Tooltip tip = {})
+      : Label{drawing, name, letter, tip}, letter_{letter} {
     set_role(Role::drawing);
   }
   using Label::operator=;
-  void blank() override { *this = ""; }
+  void blank() override { *this = letter_; }
+
+ private:
+  std::string letter_;
 };
 
 }  // namespace eterlab::ui

@@ -13,7 +13,7 @@ namespace eterlab::ui {
 
 namespace {
 
-QVBoxLayout* new_column(std::initializer_list<Item> items) {
+QVBoxLayout* new_column(const std::vector<Item>& items) {
   auto* column = new QVBoxLayout;
   column->setSpacing(theme::spacing() * 2 / 3);
   for (const Item& item : items) {
@@ -77,7 +77,7 @@ void Item::fill(QWidget& container, int margin) const {
   add_to(*outer);
 }
 
-Item column(std::initializer_list<Item> items) { return Item{new_column(items)}; }
+Item column(const std::vector<Item>& items) { return Item{new_column(items)}; }
 
 Item row(std::initializer_list<Item> items) {
   auto* row = new QHBoxLayout;
@@ -96,7 +96,7 @@ Item alternatives(std::initializer_list<Item> items) {
   return Item{place};
 }
 
-Item buttons(std::initializer_list<Item> items) {
+Item buttons(const std::vector<Item>& items) {
   auto* row = new QHBoxLayout;
   row->addStretch(1);
   for (const Item& item : items) {
@@ -132,7 +132,7 @@ Field field(Label& name, Label& value, Label& unit) {
   return {&name, &value, &unit};
 }
 
-Item form(std::initializer_list<Field> fields) {
+Item form(const std::vector<Field>& fields) {
   auto* grid = new_grid();
   int line = 0;
   for (const Field& field : fields) {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QWidget>
+#include <concepts>
 #include <initializer_list>
+#include <type_traits>
 #include <vector>
 
 class QBoxLayout;
@@ -37,28 +39,28 @@ class Item {
   Place place_ = Place::normal;
 };
 
-Item column(std::initializer_list<Item> items);
+Item column(const std::vector<Item>& items);
 Item row(std::initializer_list<Item> items);
 /// In one place, where each shows while the others are hidden.
 Item alternatives(std::initializer_list<Item> items);
 /// The buttons of a window: at its bottom, to the right.
-Item buttons(std::initializer_list<Item> items);
+Item buttons(const std::vector<Item>& items);
 
-template <class... Items>
+template <std::convertible_to<Item>... Items>
 Item column(Items&&... items) {
-  return column({Item{items}...});
+  return column(std::vector<Item>{Item{items}...});
 }
-template <class... Items>
+template <std::convertible_to<Item>... Items>
 Item row(Items&&... items) {
   return row({Item{items}...});
 }
-template <class... Items>
+template <std::convertible_to<Item>... Items>
 Item alternatives(Items&&... items) {
   return alternatives({Item{items}...});
 }
-template <class... Items>
+template <std::convertible_to<Item>... Items>
 Item buttons(Items&&... items) {
-  return buttons({Item{items}...});
+  return buttons(std::vector<Item>{Item{items}...});
 }
 
 /// Room that grows, to keep neighbours together or apart.
@@ -79,10 +81,21 @@ Field field(Label& name, Label& value);
 Field field(Label& name, Label& value, Label& unit);
 
 /// Lines of prompts and boxes, aligned.
-Item form(std::initializer_list<Field> fields);
+Item form(const std::vector<Field>& fields);
+/// Of fields, of inputs and lists, which are fields of their own, and of arrays of inputs.
 template <class... Fields>
-Item form(Fields... fields) {
-  return form({fields...});
+Item form(const Fields&... fields) {
+  std::vector<Field> lines;
+  const auto add = [&lines](const auto& line) {
+    if constexpr (std::is_convertible_v<decltype(line), Field>) {
+      lines.push_back(line);
+    } else {
+      const std::vector<Field> several = line;
+      lines.insert(lines.end(), several.begin(), several.end());
+    }
+  };
+  (add(fields), ...);
+  return form(lines);
 }
 
 /// One line of a table.

@@ -19,7 +19,8 @@ Option::Option(Parent parent, std::string_view name, std::string_view caption)
 std::string Option::caption() const { return from_qt(text()); }
 
 OptionArray::OptionArray(Parent parent, std::string_view name,
-                         std::initializer_list<std::string_view> captions, int first_index) {
+                         std::initializer_list<std::string_view> captions, int first_index)
+    : group_{parent.widget()} {
   int index = first_index;
   for (const std::string_view caption : captions) {
     auto button =

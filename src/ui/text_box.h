@@ -21,7 +21,7 @@ class PointLineEdit : public QLineEdit {
 };
 
 /// A box for one value, of 32 767 characters at most; what is pasted beyond them is cut.
-class TextBox final : public PointLineEdit {
+class TextBox : public PointLineEdit {
  public:
   TextBox(Parent parent, std::string_view name, Tooltip tip = {});
 

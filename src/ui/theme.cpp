@@ -220,6 +220,7 @@ QFont font_of(Label::Role role) {
       font.setWeight(QFont::DemiBold);
       return font;
     case Label::Role::text:
+    case Label::Role::cell:
       break;
   }
   return font;

@@ -64,7 +64,7 @@ void Window::fit() {
   setFixedSize(least_);
 }
 
-void Window::refuse(TextBox& focus, std::string_view text, std::string_view title) {
+void Window::refuse(QWidget& focus, std::string_view text, std::string_view title) {
   message_box(this, Icon::exclamation, title, text);
   focus.setFocus();
 }
@@ -88,6 +88,20 @@ void Window::place(std::string_view window, TwipsPoint corner) {
 void Window::centre_across_screen(int top_twips) {
   const QRect whole = screen()->geometry();
   move(whole.left() + (whole.width() - frameGeometry().width()) / 2, pixels_from_twips(top_twips));
+}
+
+void Window::centre_on_screen() {
+  QRect frame = frameGeometry();
+  frame.moveCenter(screen()->geometry().center());
+  move(frame.topLeft());
+}
+
+void Window::blank_results() const {
+  for (QWidget* widget : findChildren<QWidget*>()) {
+    if (auto* result = dynamic_cast<Blankable*>(widget); result != nullptr) {
+      result->blank();
+    }
+  }
 }
 
 void Window::blank_on_change(std::initializer_list<TextBox*> boxes,

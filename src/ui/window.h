@@ -34,7 +34,13 @@ class Window : public QWidget {
   /// one extends this.
   virtual void bring_forward();
 
+  /// Moves this window, moves the companion, shows it.
+  void open_companion(std::string_view companion, TwipsPoint caller_corner,
+                      TwipsPoint companion_corner);
+
  protected:
+  static constexpr int default_width = 64;
+
   /// What stands on the window. It is wide enough for its contents and for so many average
   /// characters, to which the notes are wrapped, and as high as that asks for.
   void arrange(const Item& contents, int width_in_characters = default_width);
@@ -48,24 +54,24 @@ class Window : public QWidget {
   void keep_open_on_escape() { escape_closes_ = false; }
 
   /// A box with an exclamation icon; afterwards the focus goes to `focus`.
-  void refuse(TextBox& focus, std::string_view text = "MANCANO DATI",
+  void refuse(QWidget& focus, std::string_view text = "MANCANO DATI",
               std::string_view title = "MESSAGGIO DI ERRORE");
 
   /// Shows another window beside this one.
   static void open(std::string_view window, Showing showing = Showing::modeless);
-  /// Moves this window, moves the companion, shows it.
-  void open_companion(std::string_view companion, TwipsPoint caller_corner,
-                      TwipsPoint companion_corner);
   /// Moves another window, loading it if needed.
   static void place(std::string_view window, TwipsPoint corner);
   void move_to(TwipsPoint corner) { move(corner.pixels()); }
   /// In the middle of the screen's width, so far from its top.
   void centre_across_screen(int top_twips);
+  void centre_on_screen();
 
   /// Any change of these boxes empties these labels, so that no result stands beside inputs that
   /// did not produce it.
   static void blank_on_change(std::initializer_list<TextBox*> boxes,
                               std::initializer_list<Label*> results);
+  /// Empties every result: labels, values on drawings, cells of tables, plots.
+  void blank_results() const;
 
   bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -73,8 +79,6 @@ class Window : public QWidget {
   void showEvent(QShowEvent* event) override;
 
  private:
-  static constexpr int default_width = 64;
-
   /// Takes the size that the contents ask for.
   void fit();
   [[nodiscard]] QPushButton* button_for_enter() const;

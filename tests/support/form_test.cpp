@@ -6,9 +6,13 @@ namespace eterlab::test {
 
 void FormTest::use(std::string_view menu_entry, std::string_view boxes, std::string_view results) {
   menu_entry_ = menu_entry;
+  use_opened(choose(menu_entry), boxes, results);
+}
+
+void FormTest::use_opened(const Driven& opened, std::string_view boxes, std::string_view results) {
   boxes_ = boxes;
   results_ = results;
-  window = choose(menu_entry);
+  window = opened;
 }
 
 void FormTest::enter(std::string_view typed) const {

@@ -6,12 +6,18 @@
 
 namespace eterlab::test {
 
-/// A window of boxes to type into and of results, which Enter asks for or each key gives. Names and
-/// contents of several controls are one text each, as in Driven.
+/// A window of boxes, options and lists to fill in and of results, which Enter asks for or each key
+/// gives. Names and contents of several controls are one text each, as in Driven:
+///
+///     use("mnuattimpcost", "Option1 txtohm txtdb", "lblr1 lblr2");
+///     expect("2|8|3", "R1 (IN SERIE) = 2,336 Ohm|R2 = 19,39 Ohm");
 class FormTest : public WindowTest {
  protected:
   /// Opens the window of a menu entry; all that is typed and expected is of these controls.
   void use(std::string_view menu_entry, std::string_view boxes, std::string_view results);
+
+  /// The same of a window that no entry names.
+  void use_opened(const Driven& opened, std::string_view boxes, std::string_view results);
 
   /// Types into the boxes and presses Enter.
   void enter(std::string_view typed) const;

@@ -53,19 +53,33 @@ QWidget& Driven::control(std::string_view name) const {
   return *found;
 }
 
-void Driven::type(std::string_view boxes, std::string_view texts) const {
-  const QStringList names = to_qt(boxes).split(' ');
+void Driven::type(std::string_view controls, std::string_view texts) const {
+  const QStringList names = to_qt(controls).split(' ');
   const QStringList contents = to_qt(texts).split('|');
   if (names.size() != contents.size()) {
-    throw std::logic_error{"not a text for each box: " + std::string{texts}};
+    throw std::logic_error{"not a text for each control: " + std::string{texts}};
   }
   for (qsizetype i = 0; i < names.size(); ++i) {
-    QWidget& box = control(from_qt(names[i]));
-    box.setFocus();
-    QTest::keyClick(&box, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(&box, Qt::Key_Delete);
-    QTest::keyClicks(&box, contents[i]);
+    const std::string name = from_qt(names[i]);
+    if (window_->findChild<QWidget*>(names[i]) == nullptr) {
+      click(name + '_' + from_qt(contents[i]));  // of an array of options
+    } else if (auto* list = qobject_cast<QComboBox*>(&control(name));
+               list != nullptr && !list->isEditable()) {
+      pick(name, list->findText(contents[i]));
+    } else {
+      type_into(control(name), contents[i]);
+    }
   }
+}
+
+void Driven::type_into(QWidget& box, const QString& text) {
+  if (!box.isVisible() && text.isEmpty()) {
+    return;
+  }
+  box.setFocus();
+  QTest::keyClick(&box, Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClick(&box, Qt::Key_Delete);
+  QTest::keyClicks(&box, text);
 }
 
 void Driven::press(Qt::Key key) const {
@@ -79,6 +93,9 @@ void Driven::click(std::string_view name) const {
 
 void Driven::pick(std::string_view combo_box, int entry) const {
   auto& box = dynamic_cast<QComboBox&>(control(combo_box));
+  if (entry < 0) {
+    throw std::runtime_error{"no such entry of " + std::string{combo_box}};
+  }
   box.setFocus();
   QTest::keyClick(&box, Qt::Key_Down, Qt::AltModifier);
   const QModelIndex index = box.model()->index(entry, box.modelColumn());

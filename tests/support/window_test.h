@@ -46,8 +46,10 @@ class Driven {
   /// Fails the test when there is no control of that name.
   [[nodiscard]] QWidget& control(std::string_view name) const;
 
-  /// Replaces the contents of boxes, one after the other and key by key.
-  void type(std::string_view boxes, std::string_view texts) const;
+  /// Replaces the contents of boxes, one after the other and key by key. Of an array of options it
+  /// clicks the one of that index ("2" for "Option1" is "Option1_2"), of a list the entry of that
+  /// text. A hidden box has nothing to type.
+  void type(std::string_view controls, std::string_view texts) const;
   void press(Qt::Key key) const;
   void click(std::string_view name) const;
   /// Opens a drop-down list and clicks on the entry at that place.
@@ -63,6 +65,8 @@ class Driven {
   [[nodiscard]] std::string focus() const;
 
  private:
+  static void type_into(QWidget& box, const QString& text);
+
   QWidget* window_;
 };
 

@@ -1,0 +1,44 @@
+#include "ui/list.h"
+
+#include <utility>
+
+#include "ui/desktop.h"
+#include "ui/text.h"
+
+namespace eterlab::ui {
+
+namespace {
+
+constexpr int entries_in_sight = 20;
+
+}  // namespace
+
+List::List(Parent parent, std::string_view name, std::string_view prompt,
+           std::initializer_list<std::string_view> entries, Tooltip tip)
+    : QComboBox{parent.widget()},
+      prompt_{std::make_unique<Label>(parent, std::string{name} + "_prompt", prompt)} {
+  set_up(*this, name, tip);
+  setSizeAdjustPolicy(AdjustToContents);
+  setMaxVisibleItems(entries_in_sight);
+  prompt_->set_prompt_of(*this);
+  for (const std::string_view entry : entries) {
+    add(entry);
+  }
+}
+
+void List::add(std::string_view entry) { addItem(to_qt(entry)); }
+
+std::string List::content() const { return from_qt(currentText()); }
+
+void List::choose(std::string_view entry) {
+  const int index = findText(to_qt(entry));
+  Q_ASSERT(index >= 0);
+  choose(index);
+}
+
+void List::on_choose(Handler handler) {
+  connect(this, &QComboBox::currentIndexChanged, this,
+          [handler = std::move(handler)] { Desktop::instance().run(handler); });
+}
+
+}  // namespace eterlab::ui

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QComboBox>
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "ui/control.h"
+#include "ui/label.h"
+#include "ui/layout.h"
+
+namespace eterlab::ui {
+
+/// A choice of one entry out of a drop-down list, with its prompt. One is always chosen, at opening
+/// the first. Letters typed go to the entry that begins with them. In a form it is a line of its
+/// own.
+class List final : public QComboBox {
+ public:
+  /// Without entries, they are added later. The prompt's name is that of the list with "_prompt"
+  /// behind it.
+  List(Parent parent, std::string_view name, std::string_view prompt,
+       std::initializer_list<std::string_view> entries = {}, Tooltip tip = {});
+
+  operator Field() const { return {prompt_.get(), const_cast<List*>(this), nullptr}; }
+
+  void add(std::string_view entry);
+  /// The place of the chosen entry, from 0.
+  [[nodiscard]] int chosen() const { return currentIndex(); }
+  [[nodiscard]] std::string content() const;
+  void choose(int index) { setCurrentIndex(index); }
+  /// The entry of that text, which must be there.
+  void choose(std::string_view entry);
+
+  /// Another entry is chosen.
+  void on_choose(Handler handler);
+
+ private:
+  std::unique_ptr<Label> prompt_;
+};
+
+}  // namespace eterlab::ui

@@ -1,0 +1,109 @@
+#include "ui/result_table.h"
+
+#include <QGridLayout>
+#include <string>
+
+#include "ui/text.h"
+#include "ui/theme.h"
+
+namespace eterlab::ui {
+
+namespace {
+
+class Cell : public Label {
+ public:
+  Cell(Parent parent, std::string_view name, ResultTable::Kind kind) : Label{parent, name} {
+    set_role(Role::cell);
+    const bool is_text = kind == ResultTable::Kind::text;
+    setAlignment((is_text ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+  }
+  using Label::operator=;
+};
+
+class ResultCell final : public Cell, public Blankable {
+ public:
+  using Cell::Cell;
+  void blank() override { *this = ""; }
+  using Cell::operator=;
+};
+
+}  // namespace
+
+ResultTable::ResultTable(Parent parent, std::string_view name, int rows,
+                         std::initializer_list<Column> columns)
+    : QWidget{parent.widget()},
+      rows_{rows},
+      columns_{static_cast<int>(columns.size())},
+      grid_{new QGridLayout{this}} {
+  set_up(*this, name, {});
+  grid_->setContentsMargins(0, 0, 0, 0);
+  grid_->setHorizontalSpacing(theme::spacing() * 3 / 2);
+  grid_->setVerticalSpacing(theme::spacing() / 6);
+  int place = 0;
+  for (const Column& column : columns) {
+    heads_.push_back(
+        std::make_unique<Label>(this, std::string{column.name} + "_head", column.head));
+    heads_.back()->set_role(Label::Role::note);
+    heads_.back()->setWordWrap(false);
+    const bool is_text = column.kind == Kind::text;
+    grid_->addWidget(heads_.back().get(), 0, place++, is_text ? Qt::AlignLeft : Qt::AlignRight);
+  }
+  for (int row = 0; row < rows; ++row) {
+    place = 0;
+    for (const Column& column : columns) {
+      const std::string cell = std::string{column.name} + "_" + std::to_string(row);
+      if (column.kind == Kind::result) {
+        cells_.push_back(std::make_unique<ResultCell>(this, cell, column.kind));
+      } else {
+        cells_.push_back(std::make_unique<Cell>(this, cell, column.kind));
+      }
+      grid_->addWidget(cells_.back().get(), row + 1, place++);
+    }
+    describe(row);
+  }
+  grid_->setRowStretch(rows + 1, 1);
+  grid_->setColumnStretch(columns_ + 1, 1);
+}
+
+Label& ResultTable::at(int row, int column) const {
+  return *cells_[static_cast<std::size_t>(row * columns_ + column)];
+}
+
+void ResultTable::reserve(int column, std::string_view longest_text) const {
+  at(0, column).reserve(longest_text);
+}
+
+void ResultTable::mark(int row) {
+  for (const int changed : {marked_, row}) {
+    for (int column = 0; changed >= 0 && column < columns_; ++column) {
+      QFont font = theme::font_of(Label::Role::cell);
+      font.setBold(changed == row);
+      at(changed, column).setFont(font);
+    }
+  }
+  const int before = marked_;
+  marked_ = row;
+  for (const int changed : {before, row}) {
+    if (changed >= 0) {
+      describe(changed);
+    }
+  }
+}
+
+void ResultTable::add_behind(int row, QWidget& widget) {
+  grid_->addWidget(&widget, row + 1, columns_);
+}
+
+void ResultTable::describe(int row) const {
+  for (int column = 0; column < columns_; ++column) {
+    QString description = heads_[static_cast<std::size_t>(column)]->text();
+    if (column > 0) {
+      description = at(row, 0).text() + ' ' + description;
+    }
+    at(row, column)
+        .setAccessibleDescription(
+            (row == marked_ ? description + ", riga evidenziata" : description).trimmed());
+  }
+}
+
+}  // namespace eterlab::ui

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QWidget>
+#include <cstdint>
+#include <initializer_list>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "ui/control.h"
+#include "ui/label.h"
+
+class QGridLayout;
+
+namespace eterlab::ui {
+
+/// Rows of texts under the heads of their columns, in which a row can be marked. Screen readers are
+/// told the head of the column with each cell, and the text in the row's first one.
+class ResultTable final : public QWidget {
+ public:
+  enum class Kind : std::uint8_t {
+    text,    ///< stays; to the left
+    number,  ///< stays; to the right
+    result,  ///< emptied with the results; to the right
+  };
+  struct Column {
+    std::string_view name;  ///< of its cells, which get the row's index behind it: lbltabr1_0
+    std::string_view head;
+    Kind kind = Kind::result;
+  };
+
+  ResultTable(Parent parent, std::string_view name, int rows,
+              std::initializer_list<Column> columns);
+
+  /// A cell, by its row and column.
+  [[nodiscard]] Label& at(int row, int column) const;
+  [[nodiscard]] int rows() const { return rows_; }
+  /// Keeps room for this text in a column.
+  void reserve(int column, std::string_view longest_text) const;
+
+  /// One row at most stands out; none for -1.
+  void mark(int row);
+  [[nodiscard]] int marked() const { return marked_; }
+
+  /// Puts something beside the last cell of a row, such as a patch of colour.
+  void add_behind(int row, QWidget& widget);
+
+ private:
+  void describe(int row) const;
+
+  int rows_;
+  int columns_;
+  int marked_ = -1;
+  QGridLayout* grid_;
+  std::vector<std::unique_ptr<Label>> heads_;
+  std::vector<std::unique_ptr<Label>> cells_;
+};
+
+}  // namespace eterlab::ui
