@@ -19,6 +19,12 @@ const char* description(ArithmeticFault::Kind kind) {
   return "invalid argument";
 }
 
+void require_above(Real limit, Real x) {
+  if (x <= limit) {
+    throw ArithmeticFault{ArithmeticFault::Kind::invalid_argument};
+  }
+}
+
 }  // namespace
 
 ArithmeticFault::ArithmeticFault(Kind kind) : std::runtime_error{description(kind)}, kind_{kind} {}
@@ -41,14 +47,11 @@ Single::Single(Real value) : value_{static_cast<float>(value.value())} {
   }
 }
 
+Real abs(Real x) { return Real{std::abs(x.value())}; }
+
 Real sqrt(Real x) { return Real{std::sqrt(x.value())}; }
 
-Real ln(Real x) {
-  if (x <= 0) {
-    throw ArithmeticFault{ArithmeticFault::Kind::invalid_argument};
-  }
-  return Real{std::log(x.value())};
-}
+Real hypot(Real a, Real b) { return Real{std::hypot(a.value(), b.value())}; }
 
 Real pow(Real base, Real exponent) {
   if (base == 0 && exponent < 0) {
@@ -57,7 +60,53 @@ Real pow(Real base, Real exponent) {
   return Real{std::pow(base.value(), exponent.value())};
 }
 
+Real exp(Real x) { return Real{std::exp(x.value())}; }
+
+Real expm1(Real x) { return Real{std::expm1(x.value())}; }
+
+Real ln(Real x) {
+  require_above(0, x);
+  return Real{std::log(x.value())};
+}
+
+Real log1p(Real x) {
+  require_above(-1, x);
+  return Real{std::log1p(x.value())};
+}
+
+Real log10(Real x) {
+  require_above(0, x);
+  return Real{std::log10(x.value())};
+}
+
+Real sin(Real angle) { return Real{std::sin(angle.value())}; }
+
+Real cos(Real angle) { return Real{std::cos(angle.value())}; }
+
+Real tan(Real angle) { return Real{std::tan(angle.value())}; }
+
+Real asin(Real sine) { return Real{std::asin(sine.value())}; }
+
+Real acos(Real cosine) { return Real{std::acos(cosine.value())}; }
+
+Real atan(Real tangent) { return Real{std::atan(tangent.value())}; }
+
+Real atan2(Real y, Real x) {
+  // The sum of two zeros is the positive one: a negative zero would be below the branch cut.
+  return Real{std::atan2(y.value() + 0.0, x.value() + 0.0)};
+}
+
+Real sinh(Real x) { return Real{std::sinh(x.value())}; }
+
+Real cosh(Real x) { return Real{std::cosh(x.value())}; }
+
+Real tanh(Real x) { return Real{std::tanh(x.value())}; }
+
 Real floor(Real x) { return Real{std::floor(x.value())}; }
+
+Real ceil(Real x) { return Real{std::ceil(x.value())}; }
+
+Real round(Real x) { return Real{std::round(x.value())}; }
 
 std::int16_t round_to_int16(Real x) {
   const double nearest = std::nearbyint(x.value());

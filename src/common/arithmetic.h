@@ -59,6 +59,10 @@ constexpr Real operator+(Real a, Real b) { return Real{a.value() + b.value()}; }
 constexpr Real operator-(Real a, Real b) { return Real{a.value() - b.value()}; }
 constexpr Real operator*(Real a, Real b) { return Real{a.value() * b.value()}; }
 Real operator/(Real a, Real b);
+constexpr Real& operator+=(Real& a, Real b) { return a = a + b; }
+constexpr Real& operator-=(Real& a, Real b) { return a = a - b; }
+constexpr Real& operator*=(Real& a, Real b) { return a = a * b; }
+inline Real& operator/=(Real& a, Real b) { return a = a / b; }
 /// @}
 
 /// A value narrowed to single precision. Computing with it widens it back to Real.
@@ -75,16 +79,62 @@ class Single {
   float value_ = 0;
 };
 
+/// @name Functions
+/// A result beyond the range of a double throws overflow. Angles are in radians.
+/// @{
+
+/// Distance from zero.
+Real abs(Real x);
 /// Square root; a negative argument throws invalid_argument.
 Real sqrt(Real x);
-/// Natural logarithm; zero or a negative argument throws invalid_argument.
-Real ln(Real x);
+/// Square root of a^2 + b^2, the squares never out of range.
+Real hypot(Real a, Real b);
 /// base raised to exponent; 0 to a negative power divides by zero, a negative base wants a whole
 /// exponent.
 Real pow(Real base, Real exponent);
+
+/// e raised to x.
+Real exp(Real x);
+/// exp(x) - 1, without cancellation where x is small.
+Real expm1(Real x);
+/// Natural logarithm; zero or a negative argument throws invalid_argument.
+Real ln(Real x);
+/// ln(1 + x), without cancellation where x is small; -1 or less throws invalid_argument.
+Real log1p(Real x);
+/// Logarithm to base 10; zero or a negative argument throws invalid_argument.
+Real log10(Real x);
+
+/// Sine.
+Real sin(Real angle);
+/// Cosine.
+Real cos(Real angle);
+/// Tangent. No double is a pole: the one nearest to a quarter turn has the tangent 1.6E16.
+Real tan(Real angle);
+/// Angle from -pi/2 to pi/2 of that sine; one beyond -1 to 1 throws invalid_argument.
+Real asin(Real sine);
+/// Angle from 0 to pi of that cosine; one beyond -1 to 1 throws invalid_argument.
+Real acos(Real cosine);
+/// Angle from -pi/2 to pi/2 of that tangent.
+Real atan(Real tangent);
+/// Angle of the point (x, y), above -pi and up to pi; 0 for the origin.
+Real atan2(Real y, Real x);
+
+/// Hyperbolic sine.
+Real sinh(Real x);
+/// Hyperbolic cosine.
+Real cosh(Real x);
+/// Hyperbolic tangent.
+Real tanh(Real x);
+
 /// The largest whole number not above x.
 Real floor(Real x);
+/// The smallest whole number not below x.
+Real ceil(Real x);
+/// Nearest whole number, half away from zero.
+Real round(Real x);
 /// Nearest whole number, ties to the even neighbour; beyond the 16-bit range throws overflow.
 std::int16_t round_to_int16(Real x);
+
+/// @}
 
 }  // namespace eterlab

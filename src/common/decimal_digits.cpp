@@ -77,6 +77,14 @@ void DecimalDigits::round_to(int decimals) {
   ++exponent_;
 }
 
+void DecimalDigits::round_to_significant(int digits) { round_to(digits - 1 - exponent_); }
+
+void DecimalDigits::shift(int exponent) {
+  if (!is_zero()) {
+    exponent_ += exponent;
+  }
+}
+
 void DecimalDigits::drop_trailing_zeros() {
   while (count_ > 0 && digits_[count_ - 1] == '0') {
     --count_;

@@ -15,6 +15,10 @@ class DecimalDigits {
 
   /// Rounds half away from zero on the digits held.
   void round_to(int decimals);
+  /// The same, to so many digits: 1 or more.
+  void round_to_significant(int digits);
+  /// Multiplies by a power of ten.
+  void shift(int exponent);
   /// Those after the last digit that is not 0.
   void drop_trailing_zeros();
 

@@ -86,6 +86,25 @@ std::string plain_text(DecimalDigits number) {
   return text;
 }
 
+/// The power of ten of the prefix under which a number of that exponent is shown with the unit.
+int prefix_exponent(int exponent, std::string_view unit) {
+  constexpr int smallest = -15;
+  int largest = 9;
+  if (unit == "F" || unit == "s") {
+    largest = 0;
+  } else if (unit == "m" || unit == "g") {
+    largest = 3;
+  }
+  // Downwards to a multiple of three, below zero as above.
+  const int thousands = (std::max(exponent, smallest) - smallest) / 3 * 3 + smallest;
+  return unit == "F" && thousands == -3 ? -6 : std::min(thousands, largest);
+}
+
+std::string_view prefix_of(int exponent) {
+  constexpr std::string_view prefixes[] = {"f", "p", "n", "\u00b5", "m", "", "k", "M", "G"};
+  return prefixes[exponent / 3 + 5];
+}
+
 Real rounded_value(DecimalDigits number, int decimals) {
   number.round_to(decimals);
   return number.value();
@@ -105,6 +124,23 @@ std::string pattern(Single x, std::string_view mask) {
 
 std::string plain(Real x) { return plain_text(DecimalDigits{x}); }
 std::string plain(Single x) { return plain_text(DecimalDigits{x}); }
+
+std::string sig(Real x, int digits) {
+  DecimalDigits number{x};
+  number.round_to_significant(digits);
+  return plain_text(number);
+}
+
+std::string eng(Real x, std::string_view unit, int digits) {
+  DecimalDigits number{x};
+  number.round_to_significant(digits);
+  const int exponent = prefix_exponent(number.exponent(), unit);
+  number.shift(-exponent);
+  std::string text = plain_text(number) + ' ';
+  text += prefix_of(exponent);
+  text += unit;
+  return text;
+}
 
 Real rounded(Real x, int decimals) { return rounded_value(DecimalDigits{x}, decimals); }
 Real rounded(Single x, int decimals) { return rounded_value(DecimalDigits{x}, decimals); }

@@ -8,7 +8,7 @@
 namespace eterlab {
 
 /// @name Numbers to text
-/// In the three styles of the results. All of them work on the decimal digits nearest to the value,
+/// In the five styles of the results. All of them work on the decimal digits nearest to the value,
 /// 15 of a Real and 7 of a Single (the even ones of two equally near), and round half away from
 /// zero on those digits: 1.25 with one decimal is 1.3, 1.005 with two is 1.01. What rounds to zero
 /// shows no minus sign. The separators are those of regional_settings().
@@ -36,6 +36,16 @@ std::string pattern(Single x, std::string_view mask);
 std::string plain(Real x);
 /// @copydoc plain(Real)
 std::string plain(Single x);
+
+/// Rounded to so many significant digits, 1 or more, and shown as plain(): 0.00012346 with four is
+/// "0,0001235", 1234567 is "1235000".
+std::string sig(Real x, int digits);
+
+/// Rounded as by sig() and shown as plain() with the prefix of the unit, f p n µ m k M G or none,
+/// that leaves 1 to 999 before the separator: "2,5 kOhm", "33,21 µF", "70,71 V", "0 Ohm". Smaller
+/// values keep f, larger ones G. Prefixes that nobody uses with a unit are passed over: m with F
+/// ("4700 µF"), those above none with F and s, those above k with g and m.
+std::string eng(Real x, std::string_view unit, int digits = 4);
 
 /// @}
 

@@ -4,12 +4,6 @@
 
 namespace eterlab::signals {
 
-namespace {
-
-Real log10(Real x) { return ln(x) / ln(10); }
-
-}  // namespace
-
 FreeSpacePath free_space_path(Real frequency_mhz, Real distance_km) {
   constexpr double shortest_km = 0.001;
   constexpr double log10_of_4_pi = 1.099;

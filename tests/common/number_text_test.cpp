@@ -55,6 +55,70 @@ TEST_F(NumberText, PlainIsTheShortestText) {
   }
 }
 
+TEST_F(NumberText, SigKeepsSignificantDigits) {
+  const std::tuple<double, int, const char*> table[] = {
+      {0.00012346, 4, "0,0001235"},
+      {1234567, 4, "1235000"},
+      {-2.5, 1, "-3"},
+      {1.005, 3, "1,01"},  // the double is a little less
+      {0.1 + 0.2, 15, "0,3"},
+      {0.1 + 0.2, 17, "0,3"},
+      {1.2, 4, "1,2"},
+      {999.96, 4, "1000"},
+      {9.9996e-5, 4, "0,0001"},
+      {9.9994e-5, 4, "9,999E-05"},
+      {999999999999996, 14, "1E+15"},
+      {123456789e300, 2, "1,2E+308"},
+      {1.7976931348623157e308, 3, "1,8E+308"},  // which no double holds
+      {0, 3, "0"},
+  };
+  for (const auto& [number, digits, text] : table) {
+    EXPECT_EQ(sig(number, digits), text);
+  }
+}
+
+TEST_F(NumberText, EngTakesThePrefixOfTheUnit) {
+  const std::tuple<double, const char*, int, const char*> table[] = {
+      {2500, "Ohm", 4, "2,5 kOhm"},
+      {33.2149e-6, "F", 4, "33,21 \u00b5F"},
+      {70.710678, "V", 4, "70,71 V"},
+      {-0.00333333, "A", 3, "-3,33 mA"},
+      {0, "Ohm", 4, "0 Ohm"},
+      {-0.0, "F", 4, "0 F"},
+      {0.1 + 0.2, "W", 15, "300 mW"},
+      {1.1e-12 + 2.2e-12, "H", 15, "3,3 pH"},  // 3.3000000000000003E-12
+      {47e-9, "F", 2, "47 nF"},
+      {999.94, "V", 4, "999,9 V"},
+      {999.96, "V", 4, "1 kV"},
+      {0.99996, "V", 4, "1 V"},
+      {0.99994, "V", 4, "999,9 mV"},
+      {123456, "Hz", 2, "120 kHz"},
+      {14.2e6, "Hz", 4, "14,2 MHz"},
+      {2.4e9, "Hz", 4, "2,4 GHz"},
+      {3e12, "Hz", 4, "3000 GHz"},
+      {1e30, "Hz", 4, "1E+21 GHz"},
+      {1.5e-15, "F", 4, "1,5 fF"},
+      {1.5e-16, "F", 4, "0,15 fF"},
+      {1.5e-20, "F", 4, "1,5E-05 fF"},
+      {999.6e-6, "F", 4, "999,6 \u00b5F"},
+      {999.6e-6, "F", 3, "1000 \u00b5F"},
+      {4700e-6, "F", 4, "4700 \u00b5F"},
+      {0.47, "F", 4, "470000 \u00b5F"},
+      {0.999996, "F", 4, "1 F"},
+      {1500, "F", 4, "1500 F"},
+      {4700e-6, "H", 4, "4,7 mH"},
+      {0.0015, "s", 4, "1,5 ms"},
+      {1500, "s", 4, "1500 s"},
+      {384.4e6, "m", 4, "384400 km"},
+      {2e6, "g", 4, "2000 kg"},
+      {2.5e-3, "m", 4, "2,5 mm"},
+  };
+  for (const auto& [number, unit, digits, text] : table) {
+    EXPECT_EQ(eng(number, unit, digits), text);
+  }
+  EXPECT_EQ(eng(1 / Real{3}, "V"), "333,3 mV");
+}
+
 TEST_F(NumberText, SinglesHaveSevenDigits) {
   EXPECT_EQ(plain(Single{0.1}), "0,1");
   EXPECT_EQ(plain(Single{12345678}), "1,234568E+07");

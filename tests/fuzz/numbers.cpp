@@ -6,6 +6,8 @@
 #include <functional>
 #include <iostream>
 #include <iterator>
+#include <utility>
+#include <vector>
 
 #include "common/leading_number.h"
 #include "common/number_text.h"
@@ -169,6 +171,55 @@ std::string expected_plain(const Decimal& number, int precision) {
   return number.sign + digits + power;
 }
 
+constexpr int digits_of_real = 15;
+
+Decimal rounded_to_significant(int digits, const Decimal& number) {
+  const int exponent = number.exponent + digits_of_real - 1;
+  Decimal rounded = rounded_to(digits - 1 - exponent, number);
+  for (; rounded.whole != 0 && rounded.whole < 100'000'000'000'000; --rounded.exponent) {
+    rounded.whole *= 10;
+  }
+  return rounded;
+}
+
+struct Prefix {
+  const char* text;
+  int exponent;
+};
+
+/// From the largest down; the smallest is for all that is below it.
+const std::pair<const char*, std::vector<Prefix>> units[] = {
+    {"Ohm",
+     {{"G", 9},
+      {"M", 6},
+      {"k", 3},
+      {"", 0},
+      {"m", -3},
+      {"\u00b5", -6},
+      {"n", -9},
+      {"p", -12},
+      {"f", -15}}},
+    {"F", {{"", 0}, {"\u00b5", -6}, {"n", -9}, {"p", -12}, {"f", -15}}},
+    {"s", {{"", 0}, {"m", -3}, {"\u00b5", -6}, {"n", -9}, {"p", -12}, {"f", -15}}},
+    {"m", {{"k", 3}, {"", 0}, {"m", -3}, {"\u00b5", -6}, {"n", -9}, {"p", -12}, {"f", -15}}},
+};
+
+void check_significant(Real number, int digits) {
+  const Decimal shown = rounded_to_significant(digits, decimal_of(number.value(), digits_of_real));
+  subject = text_of(number.value()) + ", significant digits " + std::to_string(digits);
+  expect_equal(sig(number, digits), expected_plain(shown, digits_of_real), "sig");
+  const int exponent = shown.whole == 0 ? 0 : shown.exponent + digits_of_real - 1;
+  for (const auto& [unit, prefixes] : units) {
+    const auto found = std::ranges::find_if(
+        prefixes, [&](const Prefix& prefix) { return exponent >= prefix.exponent; });
+    const Prefix prefix = found == prefixes.end() ? prefixes.back() : *found;
+    Decimal mantissa = shown;
+    mantissa.exponent -= prefix.exponent;
+    expect_equal(eng(number, unit, digits),
+                 expected_plain(mantissa, digits_of_real) + ' ' + prefix.text + unit, "eng");
+  }
+}
+
 /// A Real with 15 digits or a Single with 7.
 template <class Number>
 void check_writing(Number number, int precision, int decimals, const std::string& mask) {
@@ -194,7 +245,8 @@ double check_reading(const std::string& text) {
 void check_number(double x, int decimals, const std::string& mask,
                   const RegionalSettings& country) {
   set_regional_settings(country);
-  check_writing(Real{x}, 15, decimals, mask);
+  check_writing(Real{x}, digits_of_real, decimals, mask);
+  check_significant(x, decimals + 1);
   if (std::abs(x) <= std::numeric_limits<float>::max()) {
     check_writing(Single{x}, 7, decimals, mask);
   }

@@ -1,0 +1,53 @@
+#include "common/complex.h"
+
+#include <cmath>
+#include <complex>
+
+namespace eterlab {
+
+namespace {
+
+std::complex<double> unchecked(Complex z) { return {z.real().value(), z.imaginary().value()}; }
+
+/// Of a function that is finite wherever it is asked: what is not finite has become too large, even
+/// where the parts of the result are NaNs.
+Complex checked(std::complex<double> z) {
+  if (!std::isfinite(z.real()) || !std::isfinite(z.imag())) {
+    throw ArithmeticFault{ArithmeticFault::Kind::overflow};
+  }
+  return {z.real(), z.imag()};
+}
+
+template <class Impedance>
+Impedance side_by_side(Impedance a, Impedance b) {
+  return a == Impedance{} && b == Impedance{} ? Impedance{} : a * b / (a + b);
+}
+
+}  // namespace
+
+Complex operator/(Complex a, Complex b) {
+  if (b == Complex{}) {
+    throw ArithmeticFault{ArithmeticFault::Kind::division_by_zero};
+  }
+  return checked(unchecked(a) / unchecked(b));
+}
+
+Real abs(Complex z) { return hypot(z.real(), z.imaginary()); }
+
+Real arg(Complex z) { return atan2(z.imaginary(), z.real()); }
+
+Complex exp(Complex z) { return checked(std::exp(unchecked(z))); }
+
+Complex sqrt(Complex z) { return checked(std::sqrt(unchecked(z))); }
+
+Complex sinh(Complex z) { return checked(std::sinh(unchecked(z))); }
+
+Complex cosh(Complex z) { return checked(std::cosh(unchecked(z))); }
+
+Complex tanh(Complex z) { return checked(std::tanh(unchecked(z))); }
+
+Real parallel(Real a, Real b) { return side_by_side(a, b); }
+
+Complex parallel(Complex a, Complex b) { return side_by_side(a, b); }
+
+}  // namespace eterlab
