@@ -1,6 +1,6 @@
 #pragma once
 
-// All that a window file needs of the layer over the toolkit.
+// All that a window file needs of the layer over the toolkit, but for drawings and plots.
 
 #include "ui/button.h"            // IWYU pragma: export
 #include "ui/calculator.h"        // IWYU pragma: export
@@ -15,6 +15,5 @@
 #include "ui/option_array.h"      // IWYU pragma: export
 #include "ui/registry.h"          // IWYU pragma: export
 #include "ui/result_table.h"      // IWYU pragma: export
-#include "ui/schematic.h"         // IWYU pragma: export
 #include "ui/text_box.h"          // IWYU pragma: export
 #include "ui/window.h"            // IWYU pragma: export
