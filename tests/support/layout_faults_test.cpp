@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "support/window_test.h"
+#include "ui/schematic.h"
 #include "ui/ui.h"
 
 namespace eterlab::test {
