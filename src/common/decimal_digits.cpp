@@ -123,7 +123,7 @@ Real DecimalDigits::value() const {
   *at++ = 'e';
   at = std::to_chars(at, std::end(text), exponent_ - count_ + 1).ptr;
   double value = 0;
-  // Only upwards can the range be left: rounding up digits that are already a double's.
+  // Digits that are already a double's leave the range upwards: rounded up, or shifted.
   if (std::from_chars(text, at, value).ec == std::errc::result_out_of_range) {
     throw ArithmeticFault{ArithmeticFault::Kind::overflow};
   }

@@ -17,7 +17,7 @@ class DecimalDigits {
   void round_to(int decimals);
   /// The same, to so many digits: 1 or more.
   void round_to_significant(int digits);
-  /// Multiplies by a power of ten.
+  /// Multiplies by a power of ten; may go beyond what a double holds.
   void shift(int exponent);
   /// Those after the last digit that is not 0.
   void drop_trailing_zeros();
