@@ -1,5 +1,6 @@
 #include "coils/multilayer_coil.h"
 #include "common/number_text.h"
+#include "ui/schematic.h"
 #include "ui/ui.h"
 
 namespace eterlab::coils {

@@ -1,6 +1,7 @@
 #include "common/number_text.h"
 #include "filters/lc_filters.h"
 #include "ui/printing.h"
+#include "ui/schematic.h"
 #include "ui/ui.h"
 
 namespace eterlab::filters {

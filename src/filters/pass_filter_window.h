@@ -5,6 +5,7 @@
 
 #include "filters/lc_filters.h"
 #include "ui/fixed_area.h"
+#include "ui/schematic.h"
 #include "ui/ui.h"
 
 namespace eterlab::filters {

@@ -4,6 +4,7 @@
 #include "common/number_text.h"
 #include "power/regulator_drawing.h"
 #include "power/three_terminal_regulator.h"
+#include "ui/schematic.h"
 #include "ui/ui.h"
 
 namespace eterlab::power {

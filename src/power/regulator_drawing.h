@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/schematic.h"
 #include "ui/ui.h"
 
 // What the circuits around a three-terminal regulator have in common, drawn alike in all of them.

@@ -3,6 +3,7 @@
 
 #include "common/number_text.h"
 #include "resistors/series_resistor.h"
+#include "ui/schematic.h"
 #include "ui/ui.h"
 
 namespace eterlab::resistors {

@@ -105,6 +105,16 @@ Item buttons(std::initializer_list<Item> items) {
   return Item{row, Item::Place::bottom};
 }
 
+Item across(const OptionArray& options) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(theme::spacing());
+  for (Option* button : options.buttons()) {
+    row->addWidget(button);
+  }
+  row->addStretch(1);
+  return Item{row};
+}
+
 Item stretch() { return Item{static_cast<QLayout*>(nullptr)}; }
 
 Field field(Label& prompt, TextBox& box) {

@@ -61,6 +61,9 @@ Item buttons(Items&&... items) {
   return buttons({Item{items}...});
 }
 
+/// Option buttons side by side; an OptionArray by itself has them one under the other.
+Item across(const OptionArray& options);
+
 /// Room that grows, to keep neighbours together or apart.
 Item stretch();
 

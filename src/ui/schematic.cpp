@@ -21,6 +21,7 @@ namespace eterlab::ui {
 namespace {
 
 using At = Schematic::At;
+using Side = Schematic::Side;
 
 // Widths of lines, in grid steps.
 constexpr double line_width = 0.19;
@@ -47,6 +48,22 @@ QTransform towards(At from, At to) {
   constexpr double degrees_in_radian = 57.29577951308232;
   const QPointF span = point(to) - point(from);
   return QTransform{}.rotate(std::atan2(span.y(), span.x()) * degrees_in_radian);
+}
+
+Side opposite(Side side) {
+  switch (side) {
+    case Side::above:
+      return Side::below;
+    case Side::below:
+      return Side::above;
+    case Side::left:
+      return Side::right;
+    case Side::right:
+      return Side::left;
+    case Side::centre:
+      break;
+  }
+  return side;
 }
 
 QPainterPath ring(double radius) {
@@ -161,6 +178,8 @@ void Schematic::part(At from, At to, double half, const QPainterPath& outline, F
   lines_.push_back({symbol, turned.map(outline), fit});
   lead(from, symbol, turned.map(QPointF{-half, 0}));
   lead(to, symbol, turned.map(QPointF{half, 0}));
+  last_part_ = {turned.map(outline).boundingRect().translated(symbol),
+                std::abs(to.y - from.y) > std::abs(to.x - from.x)};
 }
 
 void Schematic::lead(At from, QPointF symbol, QPointF edge) {
@@ -246,6 +265,7 @@ Schematic& Schematic::led(At from, At to) {
   const QTransform turned = towards(from, to);
   lines_.push_back({symbol, turned.map(rays), Fit::exact});
   solids_.push_back({symbol, turned.map(heads), Fit::exact});
+  last_part_.room |= turned.map(heads).boundingRect().translated(symbol);
   return *this;
 }
 
@@ -275,8 +295,8 @@ Schematic& Schematic::junction(At place) {
   return *this;
 }
 
-Schematic& Schematic::mark(At place, std::string_view text) {
-  marks_.push_back({place, to_qt(text)});
+Schematic& Schematic::mark(At place, std::string_view text, Side side) {
+  marks_.push_back({place, to_qt(text), side});
   return *this;
 }
 
@@ -320,41 +340,129 @@ Schematic& Schematic::spiral(At centre, double inner_radius, double outer_radius
   return *this;
 }
 
+At Schematic::Part::edge(Side side) const {
+  const QPointF middle = room.center();
+  switch (side) {
+    case Side::above:
+      return {middle.x(), room.top()};
+    case Side::below:
+      return {middle.x(), room.bottom()};
+    case Side::left:
+      return {room.left(), middle.y()};
+    case Side::right:
+      return {room.right(), middle.y()};
+    case Side::centre:
+      break;
+  }
+  return {middle.x(), middle.y()};
+}
+
+Schematic& Schematic::named(std::string_view name, Label& value, std::optional<Side> value_side) {
+  const Side side = value_side.value_or(last_part_.is_vertical ? Side::right : Side::below);
+  return named(name, opposite(side)).named(value, side);
+}
+
+Schematic& Schematic::named(Label& value, std::optional<Side> side) {
+  const Side chosen = side.value_or(last_part_.usual_side());
+  return label(value, last_part_.edge(chosen), chosen);
+}
+
+Schematic& Schematic::named(std::string_view name, std::optional<Side> side) {
+  const Side chosen = side.value_or(last_part_.usual_side());
+  return mark(last_part_.edge(chosen), name, chosen);
+}
+
+Schematic& Schematic::named_beside(std::string_view name, Label& value, Side side) {
+  constexpr double line = 2;  // in grid steps
+  At name_place = last_part_.edge(side);
+  At value_place = name_place;
+  switch (side) {
+    case Side::above:
+      name_place.y -= line;
+      break;
+    case Side::below:
+      value_place.y += line;
+      break;
+    default:
+      name_place.y -= line / 2;
+      value_place.y += line / 2;
+  }
+  return mark(name_place, name, side).label(value, value_place, side);
+}
+
 Schematic& Schematic::label(Label& label, At place, Side side) {
   Q_ASSERT(label.parentWidget() == this);
-  label.set_role(Label::Role::drawing);
-  labels_.push_back({&label, place, side});
-  place_labels();
+  const auto known = std::find_if(labels_.begin(), labels_.end(),
+                                  [&](const Placed& placed) { return placed.label == &label; });
+  const Placed placed{&label, place, side, true};
+  if (known != labels_.end()) {
+    *known = placed;
+  } else {
+    label.set_role(Label::Role::drawing);
+    labels_.push_back(placed);
+  }
+  this->place(placed);
+  if (label.testAttribute(Qt::WA_WState_ExplicitShowHide)) {
+    label.show();
+  }
   return *this;
 }
 
 void Schematic::place_labels() {
-  const double gap = step() / 2;
   for (const Placed& placed : labels_) {
-    placed.label->adjustSize();
-    const QSizeF size = placed.label->size();
-    QPointF corner = point(placed.place) * step() - QPointF{size.width() / 2, size.height() / 2};
-    switch (placed.side) {
-      case Side::above:
-        corner.ry() -= size.height() / 2 + gap / 2;
-        break;
-      case Side::below:
-        corner.ry() += size.height() / 2 + gap / 2;
-        break;
-      case Side::left:
-        corner.rx() -= size.width() / 2 + gap;
-        break;
-      case Side::right:
-        corner.rx() += size.width() / 2 + gap;
-        break;
-      case Side::centre:
-        break;
+    if (placed.is_placed) {
+      place(placed);
     }
-    // A value longer than its place is shown whole, wherever there is room.
-    const QPoint furthest{width() - placed.label->width(), height() - placed.label->height()};
-    placed.label->move(std::clamp(qRound(corner.x()), 0, std::max(furthest.x(), 0)),
-                       std::clamp(qRound(corner.y()), 0, std::max(furthest.y(), 0)));
   }
+}
+
+void Schematic::place(const Placed& placed) {
+  placed.label->adjustSize();
+  const QPointF corner = room_of(placed.label->size(), placed.place, placed.side).topLeft();
+  // A value longer than its place is shown whole, wherever there is room.
+  const QPoint furthest{width() - placed.label->width(), height() - placed.label->height()};
+  placed.label->move(std::clamp(qRound(corner.x()), 0, std::max(furthest.x(), 0)),
+                     std::clamp(qRound(corner.y()), 0, std::max(furthest.y(), 0)));
+}
+
+QRectF Schematic::room_of(QSizeF letters, At place, Side side) {
+  const double gap = step() / 2;
+  QRectF room{{}, letters};
+  room.moveCenter(point(place) * step());
+  switch (side) {
+    case Side::above:
+      room.translate(0, -(letters.height() / 2 + gap / 2));
+      break;
+    case Side::below:
+      room.translate(0, letters.height() / 2 + gap / 2);
+      break;
+    case Side::left:
+      room.translate(-(letters.width() / 2 + gap), 0);
+      break;
+    case Side::right:
+      room.translate(letters.width() / 2 + gap, 0);
+      break;
+    case Side::centre:
+      break;
+  }
+  return room;
+}
+
+void Schematic::clear() {
+  for (Shapes* shapes : {&lines_, &thin_lines_, &thin_curves_, &dashed_lines_, &rods_, &heads_,
+                         &solids_, &terminals_}) {
+    shapes->clear();
+  }
+  marks_.clear();
+  for (Placed& placed : labels_) {
+    placed.is_placed = false;
+  }
+  for (QObject* child : children()) {
+    if (auto* label = dynamic_cast<Label*>(child); label != nullptr) {
+      label->hide();
+    }
+  }
+  update();
 }
 
 void Schematic::on_click(Handler handler) {
@@ -440,9 +548,9 @@ void Schematic::paintEvent(QPaintEvent* /*event*/) {
   paint_shapes(painter);
   painter.setPen(palette().color(foregroundRole()));
   for (const Mark& mark : marks_) {
-    QRectF around{0, 0, width() * 1.0, 4 * step()};
-    around.moveCenter(point(mark.place) * step());
-    painter.drawText(around, Qt::AlignCenter, mark.text);
+    const QSizeF letters = QFontMetricsF{font()}.size(Qt::TextSingleLine, mark.text);
+    painter.drawText(room_of(letters, mark.place, mark.side), Qt::AlignCenter | Qt::TextDontClip,
+                     mark.text);
   }
   if (hasFocus()) {
     QStyleOptionFocusRect frame;

@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <cstdint>
 #include <initializer_list>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -23,7 +24,7 @@ class Schematic final : public QWidget {
     double x = 0;
     double y = 0;
   };
-  /// Where a label stands, seen from its place.
+  /// Where letters stand, seen from their place.
   enum class Side : std::uint8_t { centre, above, below, left, right };
 
   Schematic(Parent parent, std::string_view name, int columns, int rows, Tooltip tip = {});
@@ -53,17 +54,34 @@ class Schematic final : public QWidget {
 
   // Marks
   Schematic& ground(At place);
-  Schematic& terminal(At place);                     ///< a small circle: input or output
-  Schematic& junction(At place);                     ///< a dot where wires meet
-  Schematic& mark(At place, std::string_view text);  ///< a short fixed sign, such as "+"
+  Schematic& terminal(At place);  ///< a small circle: input or output
+  Schematic& junction(At place);  ///< a dot where wires meet
+  /// Short fixed letters, such as "+".
+  Schematic& mark(At place, std::string_view text, Side side = Side::centre);
   /// A coil seen from the side: turns around a form between two points of its axis.
   Schematic& winding(At from, At to, double diameter, int turns);
   /// A flat coil seen from above: whole turns that begin and end to the right of the centre.
   Schematic& spiral(At centre, double inner_radius, double outer_radius, int turns);
 
+  // Letters beside the part drawn last
+
+  /// Its fixed name and its value: name above and value below a horizontal part, name to the left
+  /// and value to the right of a vertical one. Where the value shall stand on another side, the
+  /// name faces it.
+  Schematic& named(std::string_view name, Label& value, std::optional<Side> value_side = {});
+  /// A value, or a name, alone: above a horizontal part, to the right of a vertical one.
+  Schematic& named(Label& value, std::optional<Side> side = {});
+  Schematic& named(std::string_view name, std::optional<Side> side = {});
+  /// Both on one side, the name over the value.
+  Schematic& named_beside(std::string_view name, Label& value, Side side);
+
   /// Puts a label beside a place, where it stays whatever its text becomes. The label must have
   /// been made with this drawing as its parent.
   Schematic& label(Label& label, At place, Side side = Side::centre);
+
+  /// Empties the drawing, to draw it anew in the same handler. Labels that are not placed again are
+  /// hidden.
+  void clear();
 
   /// The whole drawing becomes something to click, or to press Enter or the space bar on.
   void on_click(Handler handler);
@@ -81,10 +99,20 @@ class Schematic final : public QWidget {
     Label* label;
     At place;
     Side side;
+    bool is_placed;  ///< since the last clear
   };
   struct Mark {
     At place;
     QString text;
+    Side side;
+  };
+  struct Part {
+    QRectF room;
+    bool is_vertical = false;
+
+    [[nodiscard]] Side usual_side() const { return is_vertical ? Side::right : Side::above; }
+    /// The middle of an edge.
+    [[nodiscard]] At edge(Side side) const;
   };
 
   /// How a shape meets the pixels of a screen.
@@ -109,6 +137,9 @@ class Schematic final : public QWidget {
   void arrow_head(At from, At to);
   void paint_shapes(QPainter& painter) const;
   void place_labels();
+  void place(const Placed& placed);
+  /// Where letters of a size stand, in pixels.
+  [[nodiscard]] static QRectF room_of(QSizeF letters, At place, Side side);
   [[nodiscard]] static double step();
 
   int columns_;
@@ -123,6 +154,7 @@ class Schematic final : public QWidget {
   Shapes terminals_;
   std::vector<Mark> marks_;
   std::vector<Placed> labels_;
+  Part last_part_;
   Handler click_handler_;
 };
 

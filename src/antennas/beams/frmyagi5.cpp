@@ -1,6 +1,7 @@
 #include "antennas/beams/yagi.h"
 #include "antennas/beams/yagi_drawing.h"
 #include "common/number_text.h"
+#include "ui/schematic.h"
 #include "ui/ui.h"
 
 namespace eterlab::antennas {

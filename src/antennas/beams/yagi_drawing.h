@@ -4,6 +4,7 @@
 #include <span>
 
 #include "antennas/beams/yagi.h"
+#include "ui/schematic.h"
 #include "ui/ui.h"
 
 namespace eterlab::antennas {

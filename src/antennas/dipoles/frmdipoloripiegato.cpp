@@ -1,5 +1,6 @@
 #include "antennas/dipoles/folded_dipole.h"
 #include "common/number_text.h"
+#include "ui/schematic.h"
 #include "ui/ui.h"
 
 namespace eterlab::antennas {

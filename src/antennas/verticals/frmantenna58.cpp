@@ -1,5 +1,6 @@
 #include <array>
 
+#include "ui/schematic.h"
 #include "ui/ui.h"
 
 namespace eterlab::antennas {

@@ -1,5 +1,6 @@
 #include "common/number_text.h"
 #include "lines/matching/gamma_match.h"
+#include "ui/schematic.h"
 #include "ui/ui.h"
 
 namespace eterlab::lines {

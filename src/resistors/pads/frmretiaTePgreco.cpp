@@ -1,5 +1,6 @@
 #include "common/number_text.h"
 #include "resistors/pads/handbook_pads.h"
+#include "ui/schematic.h"
 #include "ui/ui.h"
 
 namespace eterlab::resistors {

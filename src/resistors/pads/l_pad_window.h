@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "common/arithmetic.h"
+#include "ui/schematic.h"
 #include "ui/ui.h"
 
 namespace eterlab::resistors {
