@@ -1,8 +1,8 @@
 #include "ui/schematic.h"
 
+#include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPaintEngine>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOption>
@@ -14,7 +14,6 @@
 #include "ui/desktop.h"
 #include "ui/label.h"
 #include "ui/text.h"
-#include "ui/theme.h"
 
 namespace eterlab::ui {
 
@@ -23,24 +22,24 @@ namespace {
 using At = Schematic::At;
 using Side = Schematic::Side;
 
-// Widths of lines, in grid steps.
-constexpr double line_width = 0.19;
-constexpr double rod_width = 0.5;
-constexpr double thin_line_share = 0.63;  // of the width of the other lines
+using Look = Shapes::Look;
+using Fit = Shapes::Fit;
 
 QPointF point(At at) { return {at.x, at.y}; }
+At at(QPointF point) { return {point.x(), point.y()}; }
 
-QPainterPath polyline(std::initializer_list<At> corners) {
-  QPainterPath path{point(*corners.begin())};
+QPainterPath segment(QPointF from, QPointF to) {
+  QPainterPath path{from};
+  path.lineTo(to);
+  return path;
+}
+
+QPainterPath polyline(const std::vector<At>& corners) {
+  QPainterPath path{point(corners.front())};
   for (const At& corner : corners) {
     path.lineTo(point(corner));
   }
   return path;
-}
-
-void add_line(QPainterPath& path, QPointF from, QPointF to) {
-  path.moveTo(from);
-  path.lineTo(to);
 }
 
 /// From the direction of the x axis to that from one point to another.
@@ -72,37 +71,6 @@ QPainterPath ring(double radius) {
   return path;
 }
 
-/// A diode's triangle and the start of its bar, pointing along the x axis.
-QPainterPath diode_outline() {
-  QPainterPath outline;
-  outline.addPolygon(QPolygonF{{{-0.9, -1}, {0.9, 0}, {-0.9, 1}, {-0.9, -1}}});
-  add_line(outline, {0.9, -1}, {0.9, 1});
-  return outline;
-}
-
-constexpr double diode_half = 0.9;
-
-/// Of a screen. Straight lines cover whole ones, so that they are even and sharp. What is recorded
-/// for a printer has no pixels yet.
-class Pixels {
- public:
-  explicit Pixels(bool exist) : exist_{exist} {}
-
-  [[nodiscard]] double nearest(double x) const { return exist_ ? std::round(x) : x; }
-  [[nodiscard]] QPointF nearest(QPointF at) const { return {nearest(at.x()), nearest(at.y())}; }
-  /// Of a line, no thinner than it should be, but for a slight excess.
-  [[nodiscard]] double width(double exact) const { return exist_ ? std::ceil(exact - 0.1) : exact; }
-  /// The nearest middle of a line: of a pixel where the line is an odd number of them wide.
-  [[nodiscard]] QPointF middle(QPointF at, double line) const {
-    const double odd_half = exist_ ? std::fmod(line, 2) / 2 : 0;
-    const QPointF half{odd_half, odd_half};
-    return nearest(at - half) + half;
-  }
-
- private:
-  bool exist_;
-};
-
 }  // namespace
 
 Schematic::Schematic(Parent parent, std::string_view name, int columns, int rows, Tooltip tip)
@@ -111,26 +79,28 @@ Schematic::Schematic(Parent parent, std::string_view name, int columns, int rows
   setFixedSize(sizeHint());
 }
 
-double Schematic::step() { return theme::spacing() / 2.0; }
-
 QSize Schematic::sizeHint() const {
-  return {static_cast<int>(std::ceil(columns_ * step())),
-          static_cast<int>(std::ceil(rows_ * step()))};
+  return {static_cast<int>(std::ceil(columns_ * grid_step())),
+          static_cast<int>(std::ceil(rows_ * grid_step()))};
 }
 
-Schematic& Schematic::wire(std::initializer_list<At> corners) {
-  lines_.push_back({{}, polyline(corners)});
+Schematic& Schematic::wire(const std::vector<At>& corners) {
+  line(Look::line, corners);
   return *this;
 }
 
-Schematic& Schematic::dashed(std::initializer_list<At> corners) {
-  dashed_lines_.push_back({{}, polyline(corners)});
+Schematic& Schematic::dashed(const std::vector<At>& corners) {
+  line(Look::dashed_line, corners);
   return *this;
 }
 
-Schematic& Schematic::rod(std::initializer_list<At> corners) {
-  rods_.push_back({{}, polyline(corners)});
+Schematic& Schematic::rod(const std::vector<At>& corners) {
+  line(Look::rod, corners);
   return *this;
+}
+
+void Schematic::line(Look look, const std::vector<At>& corners) {
+  shapes_.add(look, Fit::grid, polyline(corners));
 }
 
 Schematic& Schematic::dimension(At from, At to) {
@@ -140,7 +110,7 @@ Schematic& Schematic::dimension(At from, At to) {
 }
 
 Schematic& Schematic::arrow(At from, At to) {
-  thin_lines_.push_back({{}, polyline({from, to})});
+  line(Look::thin_line, {from, to});
   arrow_head(from, to);
   return *this;
 }
@@ -157,117 +127,217 @@ void Schematic::arrow_head(At from, At to) {
   const QPointF across{back.y() / length * half_width, -back.x() / length * half_width};
   QPainterPath head;
   head.addPolygon(QPolygonF{{{}, back + across, back - across, {}}});
-  heads_.push_back({point(to), head, Fit::exact});
+  shapes_.add(Look::arrow_head, Fit::exact, head, point(to));
 }
 
 Schematic& Schematic::circle(At centre, double radius) {
-  lines_.push_back({point(centre), ring(radius), Fit::exact});
+  shapes_.add(Look::line, Fit::exact, ring(radius), point(centre));
+  return *this;
+}
+
+Schematic& Schematic::arc(At centre, double radius, double from_degrees, double to_degrees) {
+  const QRectF whole{-radius, -radius, 2 * radius, 2 * radius};
+  QPainterPath path;
+  path.arcMoveTo(whole, from_degrees);
+  path.arcTo(whole, from_degrees, to_degrees - from_degrees);
+  shapes_.add(Look::line, Fit::exact, path, point(centre));
   return *this;
 }
 
 Schematic& Schematic::box(At top_left, At bottom_right) {
+  const QRectF room{point(top_left), point(bottom_right)};
   QPainterPath path;
-  path.addRect(QRectF{point(top_left), point(bottom_right)});
-  lines_.push_back({{}, path});
+  path.addRect(room);
+  shapes_.add(Look::line, Fit::grid, path);
+  last_part_ = {room, room.height() > room.width()};
   return *this;
 }
 
-void Schematic::part(At from, At to, double half, const QPainterPath& outline, Fit fit) {
-  const QPointF symbol = (point(from) + point(to)) / 2;
+Schematic& Schematic::shaded(const std::vector<At>& corners) {
+  QPainterPath path = polyline(corners);
+  path.closeSubpath();
+  shapes_.add(Look::tint, Fit::grid, path);
+  shapes_.add(Look::line, Fit::grid, path);
+  return *this;
+}
+
+Schematic& Schematic::shaded_box(At top_left, At bottom_right) {
+  QPainterPath path;
+  path.addRect(QRectF{point(top_left), point(bottom_right)});
+  shapes_.add(Look::tint, Fit::grid, path);
+  return box(top_left, bottom_right);
+}
+
+Schematic& Schematic::shaded_circle(At centre, double radius) {
+  shapes_.add(Look::tint, Fit::exact, ring(radius), point(centre));
+  return circle(centre, radius);
+}
+
+Schematic& Schematic::shaded_ring(At centre, double inner_radius, double outer_radius) {
+  QPainterPath area = ring(outer_radius);
+  area.addPath(ring(inner_radius));  // a hole, by the odd-even rule
+  shapes_.add(Look::tint, Fit::exact, area, point(centre));
+  return circle(centre, inner_radius).circle(centre, outer_radius);
+}
+
+Schematic& Schematic::part(At from, At to, const Symbol& drawn) {
+  const QPointF middle = (point(from) + point(to)) / 2;
   const QTransform turned = towards(from, to);
-  lines_.push_back({symbol, turned.map(outline), fit});
-  lead(from, symbol, turned.map(QPointF{-half, 0}));
-  lead(to, symbol, turned.map(QPointF{half, 0}));
-  last_part_ = {turned.map(outline).boundingRect().translated(symbol),
-                std::abs(to.y - from.y) > std::abs(to.x - from.x)};
+  symbol(at(middle), drawn, turned);
+  lead(from, middle, turned.map(QPointF{-drawn.half, 0}));
+  lead(to, middle, turned.map(QPointF{drawn.half, 0}));
+  last_part_.is_vertical = std::abs(to.y - from.y) > std::abs(to.x - from.x);
+  return *this;
+}
+
+Schematic& Schematic::symbol(At place, const Symbol& drawn, const QTransform& turned) {
+  const auto add = [&](Look look, Fit fit, const QPainterPath& path) {
+    if (!path.isEmpty()) {
+      shapes_.add(look, fit, turned.map(path), point(place));
+    }
+  };
+  add(Look::line, Fit::symbol, drawn.straight);
+  add(Look::line, Fit::exact, drawn.curved);
+  add(Look::solid, Fit::exact, drawn.solid);
+  const QRectF room = turned.mapRect(drawn.room()).translated(point(place));
+  last_part_ = {room, room.height() > room.width()};
+  return *this;
+}
+
+Schematic& Schematic::symbol(At place, const Symbol& drawn, Flip flip) {
+  const At scale = beside({}, 1, 1, flip);
+  return symbol(place, drawn, QTransform::fromScale(scale.x, scale.y));
 }
 
 void Schematic::lead(At from, QPointF symbol, QPointF edge) {
   // Of two halves, one stands on the pixels as wires do, the other as the symbol does.
   const QPointF half_way = (point(from) - symbol + edge) / 2;
-  QPainterPath wire_half;
-  add_line(wire_half, point(from), symbol + half_way);
-  lines_.push_back({{}, wire_half});
-  QPainterPath symbol_half;
-  add_line(symbol_half, half_way, edge);
-  lines_.push_back({symbol, symbol_half, Fit::symbol});
+  shapes_.add(Look::line, Fit::grid, segment(point(from), symbol + half_way));
+  shapes_.add(Look::line, Fit::symbol, segment(half_way, edge), symbol);
 }
 
-Schematic& Schematic::resistor(At from, At to) {
-  constexpr double half = 1.8;
-  constexpr double half_height = 0.65;
-  QPainterPath outline;
-  outline.addRect(-half, -half_height, 2 * half, 2 * half_height);
-  part(from, to, half, outline);
-  return *this;
+Schematic& Schematic::resistor(At from, At to) { return part(from, to, symbols::resistor()); }
+
+Schematic& Schematic::variable_resistor(At from, At to) {
+  return part(from, to, symbols::variable(symbols::resistor()));
 }
 
-Schematic& Schematic::capacitor(At from, At to) {
-  constexpr double half_gap = 0.35;
-  constexpr double half_plate = 1.3;
-  QPainterPath outline;
-  add_line(outline, {-half_gap, -half_plate}, {-half_gap, half_plate});
-  add_line(outline, {half_gap, -half_plate}, {half_gap, half_plate});
-  part(from, to, half_gap, outline);
-  return *this;
+Schematic& Schematic::capacitor(At from, At to) { return part(from, to, symbols::capacitor()); }
+
+Schematic& Schematic::variable_capacitor(At from, At to) {
+  return part(from, to, symbols::variable(symbols::capacitor()));
+}
+
+Schematic& Schematic::trimmer_capacitor(At from, At to) {
+  return part(from, to, symbols::trimmed(symbols::capacitor()));
 }
 
 Schematic& Schematic::electrolytic(At from, At to) {
-  constexpr double half_gap = 0.65;
-  constexpr double half_plate = 1.3;
-  constexpr double thickness = 0.47;
-  QPainterPath outline;
-  outline.addRect(-half_gap, -half_plate, thickness, 2 * half_plate);
-  // The sign of the positive plate, beside it.
-  add_line(outline, {-1.9, -1.1}, {-1.1, -1.1});
-  add_line(outline, {-1.5, -1.5}, {-1.5, -0.7});
-  for (const double x : {0.36, 0.45, 0.54}) {  // side by side, the solid negative plate
-    add_line(outline, {x, -half_plate}, {x, half_plate});
-  }
-  part(from, to, half_gap, outline);
-  return *this;
+  return part(from, to, symbols::electrolytic());
 }
 
-Schematic& Schematic::inductor(At from, At to) {
-  constexpr int humps = 4;
-  constexpr double hump = 1.2;
-  constexpr double half = humps * hump / 2;
-  QPainterPath outline{{-half, 0}};
-  for (int i = 0; i < humps; ++i) {
-    outline.arcTo(-half + i * hump, -hump / 2, hump, hump, 180, -180);
-  }
-  part(from, to, half, outline, Fit::exact);
-  return *this;
+Schematic& Schematic::inductor(At from, At to) { return part(from, to, symbols::inductor()); }
+
+Schematic& Schematic::variable_inductor(At from, At to) {
+  return part(from, to, symbols::variable(symbols::inductor()));
 }
 
-Schematic& Schematic::diode(At from, At to) {
-  part(from, to, diode_half, diode_outline());
-  return *this;
+Schematic& Schematic::choke(At from, At to) { return part(from, to, symbols::choke()); }
+
+Schematic& Schematic::diode(At from, At to) { return part(from, to, symbols::diode()); }
+
+Schematic& Schematic::zener(At from, At to) { return part(from, to, symbols::zener()); }
+
+Schematic& Schematic::led(At from, At to) { return part(from, to, symbols::led()); }
+
+Schematic& Schematic::crystal(At from, At to) { return part(from, to, symbols::crystal()); }
+
+Schematic& Schematic::battery(At from, At to) { return part(from, to, symbols::battery()); }
+
+Schematic& Schematic::open_contact(At from, At to) {
+  return part(from, to, symbols::open_contact());
 }
 
-Schematic& Schematic::zener(At from, At to) {
-  QPainterPath outline = diode_outline();
-  add_line(outline, {diode_half, -1}, {0.45, -1});  // the bent end of the bar
-  part(from, to, diode_half, outline);
-  return *this;
-}
+Schematic& Schematic::loudspeaker(At from, At to) { return part(from, to, symbols::loudspeaker()); }
 
-Schematic& Schematic::led(At from, At to) {
-  diode(from, to);
-  QPainterPath rays;
-  QPainterPath heads;
-  for (const double x : {-0.3, 0.6}) {  // two rays of light
-    const QPointF tip{x + 0.8, -2.7};
-    add_line(rays, {x, -1.5}, {x + 0.4, -2.1});
-    heads.addPolygon(QPolygonF{{tip, tip + QPointF{-0.65, 0.3}, tip + QPointF{-0.05, 0.75}, tip}});
-  }
-  const QPointF symbol = (point(from) + point(to)) / 2;
+Schematic& Schematic::potentiometer(At from, At to, At slider) {
+  resistor(from, to);
+  const Part body = last_part_;
+  // Seen from the middle of the resistor, along it and across.
+  const QPointF middle = (point(from) + point(to)) / 2;
   const QTransform turned = towards(from, to);
-  lines_.push_back({symbol, turned.map(rays), Fit::exact});
-  solids_.push_back({symbol, turned.map(heads), Fit::exact});
-  last_part_.room |= turned.map(heads).boundingRect().translated(symbol);
+  const QPointF seen = turned.inverted().map(point(slider) - middle);
+  const double half_thickness = symbols::resistor().room().bottom();
+  const QPointF corner = middle + turned.map(QPointF{0, seen.y()});
+  const QPointF tip =
+      middle + turned.map(QPointF{0, seen.y() < 0 ? -half_thickness : half_thickness});
+  const QPointF shaft = tip + (corner - tip) * 0.5;
+  wire({slider, at(corner), at(shaft)}).arrow(at(shaft), at(tip));
+  last_part_ = body;
   return *this;
 }
+
+Schematic& Schematic::ac_source(At from, At to) {
+  QPainterPath sine{{-0.95, 0}};
+  sine.cubicTo(-0.6, -1.1, -0.35, -1.1, 0, 0);
+  sine.cubicTo(0.35, 1.1, 0.6, 1.1, 0.95, 0);
+  // Whichever way the wires go.
+  shapes_.add(Look::line, Fit::exact, sine, (point(from) + point(to)) / 2);
+  return part(from, to, symbols::meter());
+}
+
+Schematic& Schematic::meter(At from, At to, std::string_view quantity) {
+  const QPointF middle = (point(from) + point(to)) / 2;
+  return mark(at(middle), quantity).part(from, to, symbols::meter());
+}
+
+Schematic& Schematic::coaxial_cable(const CoaxialCable& cable) {
+  constexpr double half_thickness = CoaxialCable::half_thickness;
+  constexpr double half_mouth = 0.4;
+  const QTransform turned = towards(cable.from, cable.to);
+  const QPointF bare = turned.map(QPointF{CoaxialCable::bare, 0});
+  const QPointF across = turned.map(QPointF{0, half_thickness});
+  const QPointF near_end = point(cable.from) + bare;
+  const QPointF far_end = point(cable.to) - bare;
+  for (const double side : {-1.0, 1.0}) {
+    wire({at(near_end + across * side), at(far_end + across * side)});
+  }
+  QPainterPath mouth;
+  mouth.addEllipse({}, half_mouth, half_thickness);
+  for (const QPointF& end : {near_end, far_end}) {
+    shapes_.add(Look::line, Fit::exact, turned.map(mouth), end);
+  }
+  wire({cable.from, at(near_end)}).wire({at(far_end), cable.to});
+  last_part_ = {QRectF{near_end - across, far_end + across}.normalized(),
+                std::abs(far_end.y() - near_end.y()) > std::abs(far_end.x() - near_end.x())};
+  return *this;
+}
+
+Schematic& Schematic::npn(const Transistor& transistor) {
+  return symbol(transistor.place, symbols::npn(), transistor.flip);
+}
+
+Schematic& Schematic::pnp(const Transistor& transistor) {
+  return symbol(transistor.place, symbols::pnp(), transistor.flip);
+}
+
+Schematic& Schematic::triode(const Triode& triode) {
+  return symbol(triode.place, symbols::triode(), triode.flip);
+}
+
+Schematic& Schematic::pentode(const Pentode& pentode) {
+  return symbol(pentode.place, symbols::pentode(), pentode.flip);
+}
+
+Schematic& Schematic::operational_amplifier(const OperationalAmplifier& amplifier) {
+  return symbol(amplifier.place, symbols::operational_amplifier(), amplifier.flip);
+}
+
+Schematic& Schematic::transformer(const Transformer& transformer) {
+  return symbol(transformer.place, symbols::transformer(transformer));
+}
+
+Schematic& Schematic::antenna(At foot) { return symbol(foot, symbols::antenna()); }
 
 Schematic& Schematic::ground(At place) {
   constexpr double stem = 0.8;
@@ -276,22 +346,29 @@ Schematic& Schematic::ground(At place) {
   QPainterPath bars;
   for (const int bar : {-1, 0, 1}) {
     const double half = 0.8 - bar * 0.4;
-    add_line(bars, {-half, bar * gap}, {half, bar * gap});
+    bars.addPath(segment({-half, bar * gap}, {half, bar * gap}));
   }
-  lines_.push_back({symbol, bars, Fit::symbol});
+  shapes_.add(Look::line, Fit::symbol, bars, symbol);
   lead(place, symbol, {0, -gap});
   return *this;
 }
 
 Schematic& Schematic::terminal(At place) {
   constexpr double radius = 0.4;
-  terminals_.push_back({point(place), ring(radius), Fit::exact});
+  shapes_.add(Look::hollow, Fit::exact, ring(radius), point(place));
+  last_part_ = {ring(radius).boundingRect().translated(point(place)), false};
   return *this;
 }
 
 Schematic& Schematic::junction(At place) {
   constexpr double radius = 0.4;
-  solids_.push_back({point(place), ring(radius), Fit::exact});
+  shapes_.add(Look::solid, Fit::exact, ring(radius), point(place));
+  return *this;
+}
+
+Schematic& Schematic::winding_dot(At place) {
+  constexpr double radius = 0.3;
+  shapes_.add(Look::solid, Fit::exact, ring(radius), point(place));
   return *this;
 }
 
@@ -311,8 +388,8 @@ Schematic& Schematic::winding(At from, At to, double diameter, int turns) {
     front.cubicTo(x - pitch * 0.3, radius, x + pitch * 0.2, -radius, x + pitch / 2, -radius);
     QPainterPath back{front.currentPosition()};
     back.cubicTo(x + pitch * 0.8, -radius, x + pitch * 0.9, radius, x + pitch, radius);
-    lines_.push_back({point(from), turned.map(front), Fit::exact});
-    thin_curves_.push_back({point(from), turned.map(back), Fit::exact});
+    shapes_.add(Look::line, Fit::exact, turned.map(front), point(from));
+    shapes_.add(Look::thin_curve, Fit::exact, turned.map(back), point(from));
   }
   return *this;
 }
@@ -322,6 +399,7 @@ Schematic& Schematic::spiral(At centre, double inner_radius, double outer_radius
   constexpr double arc_angle = 6.283185307179586 / arcs_in_turn;
   const int arcs = turns * arcs_in_turn;
   const double arc_rise = (outer_radius - inner_radius) / arcs;
+  QPainterPath turn;
   QPointF handle;  // of the curve that ends or begins at a place, along the spiral
   for (int arc = 0; arc <= arcs; ++arc) {
     const double radius = inner_radius + arc_rise * arc;
@@ -330,10 +408,13 @@ Schematic& Schematic::spiral(At centre, double inner_radius, double outer_radius
     const QPointF place = outwards * radius;
     const QPointF third = (outwards * arc_rise + onwards * (radius * arc_angle)) / 3;
     if (arc > 0) {
-      lines_.back().path.cubicTo(handle, place - third, place);
+      turn.cubicTo(handle, place - third, place);
     }
-    if (arc < arcs && arc % arcs_in_turn == 0) {
-      lines_.push_back({point(centre), QPainterPath{place}, Fit::exact});
+    if (arc % arcs_in_turn == 0) {
+      if (arc > 0) {
+        shapes_.add(Look::line, Fit::exact, turn, point(centre));
+      }
+      turn = QPainterPath{place};
     }
     handle = place + third;
   }
@@ -426,9 +507,9 @@ void Schematic::place(const Placed& placed) {
 }
 
 QRectF Schematic::room_of(QSizeF letters, At place, Side side) {
-  const double gap = step() / 2;
+  const double gap = grid_step() / 2;
   QRectF room{{}, letters};
-  room.moveCenter(point(place) * step());
+  room.moveCenter(point(place) * grid_step());
   switch (side) {
     case Side::above:
       room.translate(0, -(letters.height() / 2 + gap / 2));
@@ -449,10 +530,7 @@ QRectF Schematic::room_of(QSizeF letters, At place, Side side) {
 }
 
 void Schematic::clear() {
-  for (Shapes* shapes : {&lines_, &thin_lines_, &thin_curves_, &dashed_lines_, &rods_, &heads_,
-                         &solids_, &terminals_}) {
-    shapes->clear();
-  }
+  shapes_.clear();
   marks_.clear();
   for (Placed& placed : labels_) {
     placed.is_placed = false;
@@ -489,69 +567,21 @@ void Schematic::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-void Schematic::paint_shapes(QPainter& painter) const {
-  const Pixels pixels{painter.paintEngine()->type() != QPaintEngine::Picture};
-  // All is painted in pixels. Besides, the toolkit cuts curves shorter than a unit into very small
-  // pieces: a step is too long for one.
-  const QTransform to_pixels = painter.deviceTransform();
-  const QPointF corner = pixels.nearest({to_pixels.dx(), to_pixels.dy()});
-  const double scale = step() * to_pixels.m11();
-  const auto draw = [&](const Shapes& shapes, double width) {
-    for (const Shape& shape : shapes) {
-      QPainterPath path = QTransform::fromScale(scale, scale).map(shape.path);
-      for (int i = 0; shape.fit != Fit::exact && i < path.elementCount(); ++i) {
-        const QPointF at = path.elementAt(i);
-        const QPointF fitted =
-            shape.fit == Fit::grid ? pixels.middle(at, width) : pixels.nearest(at);
-        path.setElementPositionAt(i, fitted.x(), fitted.y());
-      }
-      const QPointF place =
-          shape.fit == Fit::grid ? QPointF{} : pixels.middle(shape.place * scale, width);
-      path.translate(corner + place);
-      painter.drawPath(path);
-    }
-  };
-
-  const QColor ink = palette().color(foregroundRole());
-  const double line = pixels.width(line_width * scale);
-  const double thin = pixels.nearest(line * thin_line_share);
-  const double rod = pixels.width(rod_width * scale);
-  const auto set_pen = [&](double width, Qt::PenCapStyle cap) {
-    painter.setPen(QPen{ink, width, Qt::SolidLine, cap, Qt::MiterJoin});
-  };
-  painter.save();
-  painter.setWorldTransform(to_pixels.inverted());
-  set_pen(thin, Qt::FlatCap);
-  draw(thin_lines_, thin);
-  draw(thin_curves_, line);
-  QPen dashes{ink, thin, Qt::CustomDashLine, Qt::SquareCap};
-  dashes.setDashPattern({3, 3});
-  painter.setPen(dashes);
-  draw(dashed_lines_, thin);
-  set_pen(line, Qt::SquareCap);
-  draw(lines_, line);
-  set_pen(rod, Qt::FlatCap);
-  draw(rods_, rod);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(ink);
-  draw(heads_, thin);
-  draw(solids_, line);
-  set_pen(line, Qt::FlatCap);
-  painter.setBrush(palette().window());  // over the ends of wires
-  draw(terminals_, line);
-  painter.restore();
+std::vector<Letters> Schematic::letters() const {
+  const QFontMetricsF metrics{font()};
+  std::vector<Letters> letters;
+  for (const Mark& mark : marks_) {
+    const QSizeF size = metrics.size(Qt::TextSingleLine, mark.text);
+    letters.push_back({room_of(size, mark.place, mark.side), mark.text});
+  }
+  return letters;
 }
 
 void Schematic::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter{this};
   painter.setRenderHint(QPainter::Antialiasing);
-  paint_shapes(painter);
-  painter.setPen(palette().color(foregroundRole()));
-  for (const Mark& mark : marks_) {
-    const QSizeF letters = QFontMetricsF{font()}.size(Qt::TextSingleLine, mark.text);
-    painter.drawText(room_of(letters, mark.place, mark.side), Qt::AlignCenter | Qt::TextDontClip,
-                     mark.text);
-  }
+  shapes_.paint(painter, palette());
+  paint(painter, palette(), letters());
   if (hasFocus()) {
     QStyleOptionFocusRect frame;
     frame.initFrom(this);

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <QPainterPath>
 #include <QWidget>
 #include <cstdint>
-#include <initializer_list>
 #include <optional>
 #include <string_view>
 #include <vector>
 
 #include "ui/control.h"
+#include "ui/shapes.h"
+#include "ui/symbols.h"
 
 namespace eterlab::ui {
 
@@ -19,43 +19,79 @@ class Label;
 /// text. Lines take the colour of text.
 class Schematic final : public QWidget {
  public:
-  /// A place on the grid: steps from the left and from the top.
-  struct At {
-    double x = 0;
-    double y = 0;
-  };
+  using At = ui::At;
   /// Where letters stand, seen from their place.
   enum class Side : std::uint8_t { centre, above, below, left, right };
 
   Schematic(Parent parent, std::string_view name, int columns, int rows, Tooltip tip = {});
 
   // Lines
-  Schematic& wire(std::initializer_list<At> corners);
-  Schematic& dashed(std::initializer_list<At> corners);
+  Schematic& wire(const std::vector<At>& corners);
+  Schematic& dashed(const std::vector<At>& corners);
   /// A conductor of an antenna: a rod or tube.
-  Schematic& rod(std::initializer_list<At> corners);
+  Schematic& rod(const std::vector<At>& corners);
   /// Thin, with an arrow head at both ends: tells what a length is measured between.
   Schematic& dimension(At from, At to);
   /// Thin, with an arrow head at its end.
   Schematic& arrow(At from, At to);
   Schematic& circle(At centre, double radius);
+  /// Counterclockwise between two angles in degrees, 0 to the right.
+  Schematic& arc(At centre, double radius, double from_degrees, double to_degrees);
   Schematic& box(At top_left, At bottom_right);
+
+  // Metal in a section: outlined, in a light tint
+  Schematic& shaded(const std::vector<At>& corners);
+  Schematic& shaded_box(At top_left, At bottom_right);
+  Schematic& shaded_circle(At centre, double radius);
+  Schematic& shaded_ring(At centre, double inner_radius, double outer_radius);
 
   // Two-terminal parts, in the middle of their wires
   Schematic& resistor(At from, At to);
+  Schematic& variable_resistor(At from, At to);
+  /// The wire of the slider meets the middle of the resistor at a right angle.
+  Schematic& potentiometer(At from, At to, At slider);
   Schematic& capacitor(At from, At to);
+  Schematic& variable_capacitor(At from, At to);
+  Schematic& trimmer_capacitor(At from, At to);
   /// The plate towards `from` is the positive one.
   Schematic& electrolytic(At from, At to);
   Schematic& inductor(At from, At to);
+  Schematic& variable_inductor(At from, At to);
+  /// An inductor on an iron core.
+  Schematic& choke(At from, At to);
   /// Current flows from `from` to `to`.
   Schematic& diode(At from, At to);
   Schematic& zener(At from, At to);
   Schematic& led(At from, At to);
+  Schematic& crystal(At from, At to);
+  /// A source of direct voltage; the pole towards `from` is the positive one.
+  Schematic& battery(At from, At to);
+  /// A generator, or another source of alternating voltage.
+  Schematic& ac_source(At from, At to);
+  /// An instrument, with what it measures in it: "V", "mA".
+  Schematic& meter(At from, At to, std::string_view quantity);
+  /// A switch, open; it turns about the end towards `from`.
+  Schematic& open_contact(At from, At to);
+  /// Opens upwards in a line to the right, to the right in one down.
+  Schematic& loudspeaker(At from, At to);
+  Schematic& coaxial_cable(const CoaxialCable& cable);
+
+  // Symbols with more terminals, which tell the places of those:
+  //   constexpr ui::Transistor q1{{20, 10}};
+  //   drawing.npn(q1).resistor({21, 1}, q1.collector).wire({{15, 10}, q1.base});
+  Schematic& npn(const Transistor& transistor);
+  Schematic& pnp(const Transistor& transistor);
+  Schematic& triode(const Triode& triode);
+  Schematic& pentode(const Pentode& pentode);
+  Schematic& operational_amplifier(const OperationalAmplifier& amplifier);
+  Schematic& transformer(const Transformer& transformer);
 
   // Marks
   Schematic& ground(At place);
-  Schematic& terminal(At place);  ///< a small circle: input or output
-  Schematic& junction(At place);  ///< a dot where wires meet
+  Schematic& antenna(At foot);
+  Schematic& terminal(At place);     ///< a small circle: input or output
+  Schematic& junction(At place);     ///< a dot where wires meet
+  Schematic& winding_dot(At place);  ///< where a winding begins
   /// Short fixed letters, such as "+".
   Schematic& mark(At place, std::string_view text, Side side = Side::centre);
   /// A coil seen from the side: turns around a form between two points of its axis.
@@ -63,7 +99,7 @@ class Schematic final : public QWidget {
   /// A flat coil seen from above: whole turns that begin and end to the right of the centre.
   Schematic& spiral(At centre, double inner_radius, double outer_radius, int turns);
 
-  // Letters beside the part drawn last
+  // Letters beside the part, symbol, box or terminal drawn last
 
   /// Its fixed name and its value: name above and value below a horizontal part, name to the left
   /// and value to the right of a vertical one. Where the value shall stand on another side, the
@@ -85,6 +121,10 @@ class Schematic final : public QWidget {
 
   /// The whole drawing becomes something to click, or to press Enter or the space bar on.
   void on_click(Handler handler);
+
+  [[nodiscard]] const Shapes& shapes() const { return shapes_; }
+  /// The marks and names.
+  [[nodiscard]] std::vector<Letters> letters() const;
 
   [[nodiscard]] QSize sizeHint() const override;
 
@@ -115,43 +155,22 @@ class Schematic final : public QWidget {
     [[nodiscard]] At edge(Side side) const;
   };
 
-  /// How a shape meets the pixels of a screen.
-  enum class Fit : std::uint8_t {
-    grid,    ///< straight lines between places of the grid: all corners on whole pixels
-    symbol,  ///< straight lines around a place: all on whole pixels, as symmetric as they are
-    exact,   ///< its place on whole pixels, the shape itself true to its form
-  };
-  struct Shape {
-    QPointF place;  ///< that the path is seen from
-    QPainterPath path;
-    Fit fit = Fit::grid;
-  };
-  // Each line is a shape of its own: to paint many as one takes the toolkit far longer.
-  using Shapes = std::vector<Shape>;
-
-  /// Draws a symbol that is laid out along the x axis, centred on the origin, and its two wires.
-  /// `half` is half the length of the symbol.
-  void part(At from, At to, double half, const QPainterPath& outline, Fit fit = Fit::symbol);
+  /// Draws a symbol in the middle of its two wires.
+  Schematic& part(At from, At to, const Symbol& symbol);
+  Schematic& symbol(At place, const Symbol& symbol, const QTransform& turned);
+  Schematic& symbol(At place, const Symbol& symbol, Flip flip = Flip::none);
   /// The wire to a symbol with its middle at a place, and an edge seen from there.
   void lead(At from, QPointF symbol, QPointF edge);
+  void line(Shapes::Look look, const std::vector<At>& corners);
   void arrow_head(At from, At to);
-  void paint_shapes(QPainter& painter) const;
   void place_labels();
   void place(const Placed& placed);
   /// Where letters of a size stand, in pixels.
   [[nodiscard]] static QRectF room_of(QSizeF letters, At place, Side side);
-  [[nodiscard]] static double step();
 
   int columns_;
   int rows_;
-  Shapes lines_;
-  Shapes thin_lines_;
-  Shapes thin_curves_;  ///< between curves among the lines
-  Shapes dashed_lines_;
-  Shapes rods_;
-  Shapes heads_;   ///< of arrows
-  Shapes solids_;  ///< other filled shapes
-  Shapes terminals_;
+  Shapes shapes_;
   std::vector<Mark> marks_;
   std::vector<Placed> labels_;
   Part last_part_;

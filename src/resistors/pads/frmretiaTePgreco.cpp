@@ -7,8 +7,6 @@ namespace eterlab::resistors {
 
 namespace {
 
-using Side = ui::Schematic::Side;
-
 // On both drawings.
 constexpr int columns = 38;
 constexpr int rows = 17;
@@ -17,8 +15,6 @@ constexpr double right = columns - left;
 constexpr double centre = columns / 2.0;
 constexpr double top = 6;
 constexpr double bottom = 16;
-constexpr double middle = (top + bottom) / 2;
-constexpr double edge = 0.65;  // of a resistor
 
 // Attenuators of a wanted loss between two impedances, as a T and as a pi.
 class frmretiaTePgreco final : public ui::Window {
@@ -67,20 +63,15 @@ class frmretiaTePgreco final : public ui::Window {
 
  private:
   void draw_t() {
-    constexpr double series_in = (left + centre) / 2;
-    constexpr double series_out = (centre + right) / 2;
     draw_ports(t_schematic, Label1);
     t_schematic.resistor({left, top}, {centre, top})
+        .named("R1", lblR1T)
         .resistor({centre, top}, {right, top})
+        .named("R2", lblR2T)
         .resistor({centre, top}, {centre, bottom})
+        .named("R3", lblR3T)
         .junction({centre, top})
-        .junction({centre, bottom})
-        .mark({series_in, top - 1.9}, "R1")
-        .mark({series_out, top - 1.9}, "R2")
-        .mark({centre - 2.2, middle}, "R3")
-        .label(lblR1T, {series_in, top + edge}, Side::below)
-        .label(lblR2T, {series_out, top + edge}, Side::below)
-        .label(lblR3T, {centre + edge, middle}, Side::right);
+        .junction({centre, bottom});
   }
 
   void draw_pi() {
@@ -89,19 +80,16 @@ class frmretiaTePgreco final : public ui::Window {
     draw_ports(pi_schematic, Label2);
     pi_schematic.wire({{left, top}, {shunt_in, top}})
         .resistor({shunt_in, top}, {shunt_out, top})
+        .named("R3", lblR3P)
         .wire({{shunt_out, top}, {right, top}})
         .resistor({shunt_in, top}, {shunt_in, bottom})
+        .named("R1", lblR1P)
         .resistor({shunt_out, top}, {shunt_out, bottom})
+        .named("R2", lblR2P, ui::Schematic::Side::left)
         .junction({shunt_in, top})
         .junction({shunt_in, bottom})
         .junction({shunt_out, top})
-        .junction({shunt_out, bottom})
-        .mark({shunt_in - 2.2, middle}, "R1")
-        .mark({shunt_out + 2.2, middle}, "R2")
-        .mark({centre, top - 1.9}, "R3")
-        .label(lblR1P, {shunt_in + edge, middle}, Side::right)
-        .label(lblR2P, {shunt_out - edge, middle}, Side::left)
-        .label(lblR3P, {centre, top + edge}, Side::below);
+        .junction({shunt_out, bottom});
   }
 
   static void draw_ports(ui::Schematic& schematic, ui::Label& name) {

@@ -45,7 +45,6 @@ class frmretiaTponte final : public ui::Window {
 
  private:
   void draw() {
-    using Side = ui::Schematic::Side;
     constexpr double left = 2;
     constexpr double branch_in = 7;
     constexpr double centre = 24;
@@ -54,10 +53,6 @@ class frmretiaTponte final : public ui::Window {
     constexpr double bridge = 3;
     constexpr double series = 10;
     constexpr double bottom = 20;
-    constexpr double first = (branch_in + centre) / 2;
-    constexpr double second = (centre + branch_out) / 2;
-    constexpr double middle = (series + bottom) / 2;
-    constexpr double edge = 0.65;
     schematic.terminal({left, series})
         .terminal({left, bottom})
         .terminal({right, series})
@@ -66,21 +61,17 @@ class frmretiaTponte final : public ui::Window {
         .wire({{right, series}, {branch_out, series}, {branch_out, bridge}})
         .wire({{left, bottom}, {right, bottom}})
         .resistor({branch_in, bridge}, {branch_out, bridge})
+        .named("R3", lblR3)
         .resistor({branch_in, series}, {centre, series})
+        .named("R1", lblR1)
         .resistor({centre, series}, {branch_out, series})
+        .named("R1a", lblR1a)
         .resistor({centre, series}, {centre, bottom})
+        .named("R2", lblR2)
         .junction({branch_in, series})
         .junction({branch_out, series})
         .junction({centre, series})
-        .junction({centre, bottom})
-        .mark({centre, bridge - 1.9}, "R3")
-        .mark({first, series - 1.9}, "R1")
-        .mark({second, series - 1.9}, "R1a")
-        .mark({centre - 2.2, middle}, "R2")
-        .label(lblR3, {centre, bridge + edge}, Side::below)
-        .label(lblR1, {first, series + edge}, Side::below)
-        .label(lblR1a, {second, series + edge}, Side::below)
-        .label(lblR2, {centre + edge, middle}, Side::right);
+        .junction({centre, bottom});
   }
 
   void cmdcalcola_click() {

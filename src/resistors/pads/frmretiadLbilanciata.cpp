@@ -12,9 +12,8 @@ class frmretiadLbilanciata final : public LPadWindow {
  public:
   frmretiadLbilanciata() : LPadWindow{"frmretiadLbilanciata", "RETI AD ELLE   BILANCIATE"} {
     schematic.resistor({left, bottom}, {shunt, bottom})
-        .wire({{shunt, bottom}, {right, bottom}})
-        .mark({series, bottom + 1.9}, "R1a")
-        .label(lblR1a, {series, bottom - 0.65}, ui::Schematic::Side::above);
+        .named("R1a", lblR1a, ui::Schematic::Side::above)
+        .wire({{shunt, bottom}, {right, bottom}});
     arrange(ui::column(ui::form(field(lblZI, txtRH), field(lblZo, txtRL)), Label3, schematic,
                        lblperdita, ui::buttons(cmdcalcola, cmdesci)));
   }

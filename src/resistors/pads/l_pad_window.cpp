@@ -7,21 +7,17 @@ namespace eterlab::resistors {
 
 LPadWindow::LPadWindow(std::string_view name, std::string_view title) : Window{name, title} {
   constexpr double top = 6;
-  constexpr double middle = (top + bottom) / 2;
-  constexpr double edge = 0.65;  // of a resistor
   schematic.terminal({left, top})
       .terminal({left, bottom})
       .terminal({right, top})
       .terminal({right, bottom})
       .resistor({left, top}, {shunt, top})
+      .named("R1", lblR1)
       .wire({{shunt, top}, {right, top}})
       .resistor({shunt, top}, {shunt, bottom})
+      .named("R2", lblR2)
       .junction({shunt, top})
       .junction({shunt, bottom})
-      .mark({series, top - 1.9}, "R1")
-      .mark({shunt - 2.2, middle}, "R2")
-      .label(lblR1, {series, top + edge}, ui::Schematic::Side::below)
-      .label(lblR2, {shunt + edge, middle}, ui::Schematic::Side::right)
       .label(Label2, {left, 1.5})
       .label(Label4, {right, 1.5});
   for (ui::Label* end : {&Label2, &Label4}) {

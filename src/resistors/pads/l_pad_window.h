@@ -19,7 +19,6 @@ class LPadWindow : public ui::Window {
   static constexpr double right = 45;
   static constexpr double bottom = 16;
   static constexpr double shunt = 35;
-  static constexpr double series = (left + shunt) / 2;
 
   LPadWindow(std::string_view name, std::string_view title);
 
