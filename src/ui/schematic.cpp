@@ -149,7 +149,7 @@ Schematic& Schematic::box(At top_left, At bottom_right) {
   QPainterPath path;
   path.addRect(room);
   shapes_.add(Look::line, Fit::grid, path);
-  last_part_ = {room, room.height() > room.width()};
+  last_part_ = {room, at(room.center()), room.height() > room.width()};
   return *this;
 }
 
@@ -190,6 +190,14 @@ Schematic& Schematic::part(At from, At to, const Symbol& drawn) {
   return *this;
 }
 
+Schematic& Schematic::part(At from, At to, const Symbol& drawn, const Symbol& upright) {
+  part(from, to, drawn);
+  const Part part = last_part_;
+  symbol(part.middle, upright);
+  last_part_ = {part.room | last_part_.room, part.middle, part.is_vertical};
+  return *this;
+}
+
 Schematic& Schematic::symbol(At place, const Symbol& drawn, const QTransform& turned) {
   const auto add = [&](Look look, Fit fit, const QPainterPath& path) {
     if (!path.isEmpty()) {
@@ -200,7 +208,7 @@ Schematic& Schematic::symbol(At place, const Symbol& drawn, const QTransform& tu
   add(Look::line, Fit::exact, drawn.curved);
   add(Look::solid, Fit::exact, drawn.solid);
   const QRectF room = turned.mapRect(drawn.room()).translated(point(place));
-  last_part_ = {room, room.height() > room.width()};
+  last_part_ = {room, place, room.height() > room.width()};
   return *this;
 }
 
@@ -219,17 +227,17 @@ void Schematic::lead(At from, QPointF symbol, QPointF edge) {
 Schematic& Schematic::resistor(At from, At to) { return part(from, to, symbols::resistor()); }
 
 Schematic& Schematic::variable_resistor(At from, At to) {
-  return part(from, to, symbols::variable(symbols::resistor()));
+  return part(from, to, symbols::resistor(), symbols::varied());
 }
 
 Schematic& Schematic::capacitor(At from, At to) { return part(from, to, symbols::capacitor()); }
 
 Schematic& Schematic::variable_capacitor(At from, At to) {
-  return part(from, to, symbols::variable(symbols::capacitor()));
+  return part(from, to, symbols::capacitor(), symbols::varied());
 }
 
 Schematic& Schematic::trimmer_capacitor(At from, At to) {
-  return part(from, to, symbols::trimmed(symbols::capacitor()));
+  return part(from, to, symbols::capacitor(), symbols::trimmed());
 }
 
 Schematic& Schematic::electrolytic(At from, At to) {
@@ -239,7 +247,7 @@ Schematic& Schematic::electrolytic(At from, At to) {
 Schematic& Schematic::inductor(At from, At to) { return part(from, to, symbols::inductor()); }
 
 Schematic& Schematic::variable_inductor(At from, At to) {
-  return part(from, to, symbols::variable(symbols::inductor()));
+  return part(from, to, symbols::inductor(), symbols::varied());
 }
 
 Schematic& Schematic::choke(At from, At to) { return part(from, to, symbols::choke()); }
@@ -278,12 +286,7 @@ Schematic& Schematic::potentiometer(At from, At to, At slider) {
 }
 
 Schematic& Schematic::ac_source(At from, At to) {
-  QPainterPath sine{{-0.95, 0}};
-  sine.cubicTo(-0.6, -1.1, -0.35, -1.1, 0, 0);
-  sine.cubicTo(0.35, 1.1, 0.6, 1.1, 0.95, 0);
-  // Whichever way the wires go.
-  shapes_.add(Look::line, Fit::exact, sine, (point(from) + point(to)) / 2);
-  return part(from, to, symbols::meter());
+  return part(from, to, symbols::meter(), symbols::sine());
 }
 
 Schematic& Schematic::meter(At from, At to, std::string_view quantity) {
@@ -308,8 +311,8 @@ Schematic& Schematic::coaxial_cable(const CoaxialCable& cable) {
     shapes_.add(Look::line, Fit::exact, turned.map(mouth), end);
   }
   wire({cable.from, at(near_end)}).wire({at(far_end), cable.to});
-  last_part_ = {QRectF{near_end - across, far_end + across}.normalized(),
-                std::abs(far_end.y() - near_end.y()) > std::abs(far_end.x() - near_end.x())};
+  const QRectF room = QRectF{near_end - across, far_end + across}.normalized();
+  last_part_ = {room, at(room.center()), room.height() > room.width()};
   return *this;
 }
 
@@ -356,7 +359,7 @@ Schematic& Schematic::ground(At place) {
 Schematic& Schematic::terminal(At place) {
   constexpr double radius = 0.4;
   shapes_.add(Look::hollow, Fit::exact, ring(radius), point(place));
-  last_part_ = {ring(radius).boundingRect().translated(point(place)), false};
+  last_part_ = {ring(radius).boundingRect().translated(point(place)), place, false};
   return *this;
 }
 
@@ -422,20 +425,19 @@ Schematic& Schematic::spiral(At centre, double inner_radius, double outer_radius
 }
 
 At Schematic::Part::edge(Side side) const {
-  const QPointF middle = room.center();
   switch (side) {
     case Side::above:
-      return {middle.x(), room.top()};
+      return {middle.x, room.top()};
     case Side::below:
-      return {middle.x(), room.bottom()};
+      return {middle.x, room.bottom()};
     case Side::left:
-      return {room.left(), middle.y()};
+      return {room.left(), middle.y};
     case Side::right:
-      return {room.right(), middle.y()};
+      return {room.right(), middle.y};
     case Side::centre:
       break;
   }
-  return {middle.x(), middle.y()};
+  return middle;
 }
 
 Schematic& Schematic::named(std::string_view name, Label& value, std::optional<Side> value_side) {

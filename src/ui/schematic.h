@@ -148,15 +148,17 @@ class Schematic final : public QWidget {
   };
   struct Part {
     QRectF room;
+    At middle;
     bool is_vertical = false;
 
     [[nodiscard]] Side usual_side() const { return is_vertical ? Side::right : Side::above; }
-    /// The middle of an edge.
+    /// Beside its middle, at an edge.
     [[nodiscard]] At edge(Side side) const;
   };
 
   /// Draws a symbol in the middle of its two wires.
   Schematic& part(At from, At to, const Symbol& symbol);
+  Schematic& part(At from, At to, const Symbol& symbol, const Symbol& upright);
   Schematic& symbol(At place, const Symbol& symbol, const QTransform& turned);
   Schematic& symbol(At place, const Symbol& symbol, Flip flip = Flip::none);
   /// The wire to a symbol with its middle at a place, and an edge seen from there.

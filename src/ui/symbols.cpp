@@ -175,21 +175,23 @@ Symbol meter() {
   return {.curved = circle({}, radius), .half = radius};
 }
 
-Symbol variable(Symbol symbol) {
+Symbol varied() {
   const QPointF tip{1.5, -1.7};
-  const QPointF shaft = tip * 0.8;  // ends inside the head
-  symbol.curved.addPath(lines({{-tip, shaft}}));
-  symbol.solid.addPath(head(tip, tip, 0.9));
-  symbol.half_room = -tip.y();
-  return symbol;
+  const QPointF end_of_shaft = tip * 0.8;  // inside the head
+  return {.curved = lines({{-tip, end_of_shaft}}), .solid = head(tip, tip, 0.9)};
 }
 
-Symbol trimmed(Symbol symbol) {
+Symbol trimmed() {
   const QPointF tip{1.3, -1.5};
   const QPointF bar{0.5, 0.43};
-  symbol.curved.addPath(lines({{-tip, tip}, {tip - bar, tip + bar}}));
-  symbol.half_room = -tip.y() + bar.y();
-  return symbol;
+  return {.curved = lines({{-tip, tip}, {tip - bar, tip + bar}})};
+}
+
+Symbol sine() {
+  QPainterPath wave{{-0.95, 0}};
+  wave.cubicTo(-0.6, -1.1, -0.35, -1.1, 0, 0);
+  wave.cubicTo(0.35, 1.1, 0.6, 1.1, 0.95, 0);
+  return {.curved = wave};
 }
 
 Symbol npn() {

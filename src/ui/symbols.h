@@ -41,9 +41,11 @@ Symbol loudspeaker();
 /// A circle for a sign.
 Symbol meter();
 
-/// The same with the arrow of a quantity to be varied, or the bar of one to be trimmed, across it.
-Symbol variable(Symbol symbol);
-Symbol trimmed(Symbol symbol);
+// What stands on another symbol, upright whichever way that is turned: the arrow of a quantity to
+// be varied, the bar of one to be trimmed, the wave of an alternating voltage.
+Symbol varied();
+Symbol trimmed();
+Symbol sine();
 
 }  // namespace symbols
 
