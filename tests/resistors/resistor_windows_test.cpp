@@ -57,5 +57,17 @@ TEST_F(frmreszener, TheClassSetsTheStandingCurrent) {
          "12 V|173 ohm|5,1 V|Valore della resistenza = Ohm 173|Dissipazione in Watt = 0,276");
 }
 
+using frmresistenze = FormTest;
+
+// By hand: 100 x 220 / 320, 1 / (1/10 + 1/22 + 1/47) = 5.99768.
+TEST_F(frmresistenze, AddInSeries) {
+  use("mnuresistenze", "Option1 txtr_0 txtr_1 txtr_2 txtr_3 txtr_4 txtr_5",
+      "lblserie lblparallelo");
+  expect("0|100|220||||", "IN SERIE = 320 Ohm|IN PARALLELO = 68,75 Ohm");
+  expect("1|10|22|47|||", "IN SERIE = 79 kOhm|IN PARALLELO = 5,998 kOhm");
+  expect("2||||1|x|", "|");
+  EXPECT_EQ(window.text("lblvaloreserie_3 lblvaloreparallelo_0"), "1 MOhm|");
+}
+
 }  // namespace
 }  // namespace eterlab::test
