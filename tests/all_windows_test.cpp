@@ -7,6 +7,7 @@
 #include <QFontMetrics>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTest>
 #include <map>
 #include <set>
@@ -38,19 +39,50 @@ TEST_F(AllWindows, AreNamedAndTitled) {
   });
 }
 
-TEST_F(AllWindows, AreLaidOutSoundlyInEveryFontSize) {
+/// Looks at a window in every option of its choices, as it comes and with results.
+class AllLayouts : public WindowTest {
+ protected:
+  void look_at(ui::Window& window) {
+    EXPECT_EQ(layout_faults(window), Texts{});
+    window.show_example();
+    settle();
+    EXPECT_EQ(layout_faults(window), Texts{});
+    for (QRadioButton* option : visible<QRadioButton>(window)) {
+      SCOPED_TRACE(name_of(*option));
+      option->click();
+      settle();
+      EXPECT_EQ(layout_faults(window), Texts{});
+      compute(window);
+      if (has_ended()) {
+        return start_anew();
+      }
+      EXPECT_EQ(layout_faults(window), Texts{});
+    }
+  }
+
+ private:
+  /// With any numbers where the option has emptied the boxes; some are refused.
+  void compute(ui::Window& window) {
+    int number = 20;
+    for (ui::TextBox* box : visible<ui::TextBox>(window)) {
+      if (box->content().empty() && !box->isReadOnly()) {
+        *box = std::to_string(number--);
+      }
+    }
+    Driven{window}.press(Qt::Key_Return);
+    settle();
+    boxes();
+  }
+};
+
+TEST_F(AllLayouts, AreSoundInEveryFontSize) {
   const QFont usual = QApplication::font();
   for (const double scale : {1.0, 1.5}) {
     SCOPED_TRACE(scale);
     QFont font = usual;
     font.setPointSizeF(usual.pointSizeF() * scale);
     QApplication::setFont(font);
-    for_each_window([](ui::Window& window) {
-      EXPECT_EQ(layout_faults(window), Texts{});
-      window.show_example();
-      settle();
-      EXPECT_EQ(layout_faults(window), Texts{});
-    });
+    for_each_window([this](ui::Window& window) { look_at(window); });
   }
   QApplication::setFont(usual);
 }
