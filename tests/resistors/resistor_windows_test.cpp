@@ -1,3 +1,5 @@
+#include <QScreen>
+
 #include "support/form_test.h"
 
 namespace eterlab::test {
@@ -170,6 +172,7 @@ TEST_F(frmreszener, TheClassSetsTheStandingCurrent) {
          "12 V|173 ohm|5,1 V|Valore della resistenza = Ohm 173|Dissipazione in Watt = 0,276");
 }
 
+<<<<<<< HEAD
 using frmresistenze = FormTest;
 
 // By hand: 100 x 220 / 320, 1 / (1/10 + 1/22 + 1/47) = 5.99768.
@@ -180,6 +183,44 @@ TEST_F(frmresistenze, AddInSeries) {
   expect("1|10|22|47|||", "IN SERIE = 79 kOhm|IN PARALLELO = 5,998 kOhm");
   expect("2||||1|x|", "|");
   EXPECT_EQ(window.text("lblvaloreserie_3 lblvaloreparallelo_0"), "1 MOhm|");
+=======
+using frmshunt = FormTest;
+
+TEST_F(frmshunt, ShuntAndItsWire) {
+  use("mnuamperometro", "txtrint txtfondo txtportata",
+      "lbloutput lblcorrente lblpotenza lblcaduta lblfilo");
+  const char* const too_small = "LA PORTATA DEVE SUPERARE IL FONDO SCALA DELLO STRUMENTO";
+  expect_refusal("100|1|0.0005", "txtportata", too_small);
+  expect_refusal("100|1|0.001", "txtportata", too_small);
+  expect_refusal("100||10", "txtfondo");
+  expect("100|1|10",
+         "SHUNT = 10 mOhm|CORRENTE NELLO SHUNT = 9,999 A|POTENZA DISSIPATA = 999,9 mW|"
+         "CADUTA DI TENSIONE = 100 mV|FILO DI COSTANTANA: DIAMETRO 2,1 mm, LUNGHEZZA 7,07 cm.");
+  EXPECT_EQ(window.text("lblvaloreportata lblvalorefondo lblvalorerint lblvaloreshunt"),
+            "10 A|1 mA|100 Ohm|10 mOhm");
+  // 100 mV over 1 mA; the thinnest wire, 100 ohm x 0.007854 mm2 / 0.49 ohm mm2/m = 1.603 m.
+  expect("100|1|0.002",
+         "SHUNT = 100 Ohm|CORRENTE NELLO SHUNT = 1 mA|POTENZA DISSIPATA = 100 \u00b5W|"
+         "CADUTA DI TENSIONE = 100 mV|FILO DI COSTANTANA: DIAMETRO 0,1 mm, LUNGHEZZA 160 cm.");
+}
+
+using frmvoltmetro = FormTest;
+
+TEST_F(frmvoltmetro, SeriesResistorInTheMiddleOfTheScreen) {
+  use("mnuvoltmetro", "txtrint txtfondo txtportata",
+      "lbloutput lblpotenza lblsensibilita lblcommerciale");
+  const QPoint middle = window.window().screen()->geometry().center();
+  const QPoint centre = window.window().frameGeometry().center();
+  EXPECT_NEAR(centre.x(), middle.x(), 2);
+  EXPECT_NEAR(centre.y(), middle.y(), 2);
+  const char* const too_small = "LA PORTATA DEVE SUPERARE IL FONDO SCALA DELLO STRUMENTO";
+  expect_refusal("1500|100|0.1", "txtportata", too_small);
+  expect_refusal("1500|100|0.15", "txtportata", too_small);
+  expect_refusal("1500|1e13|50", "txtfondo", "VALORI AMMESSI: DA 1E-12 A 1000000000000");
+  expect("1500|100|50",
+         "RESISTENZA IN SERIE = 498,5 kOhm|POTENZA DISSIPATA = 4,985 mW|"
+         "SENSIBILITA' = 10 kOhm PER VOLT|VALORE E24 = 510 kOhm : FONDO SCALA 51,15 Volt");
+>>>>>>> cc9bd2de7ac9a9d453172d7ad6fdde5b01957530
 }
 
 }  // namespace
