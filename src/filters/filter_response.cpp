@@ -15,8 +15,7 @@ Real resonance_hz(const ThreeElementFilter& filter) {
 
 /// The characteristic impedance of the elements over that of the line, or its inverse.
 Real match(const ThreeElementFilter& filter) {
-  const Real ratio =
-      sqrt(filter.inductance_h) / sqrt(filter.capacitance_f) / filter.impedance_ohm;
+  const Real ratio = sqrt(filter.inductance_h) / sqrt(filter.capacitance_f) / filter.impedance_ohm;
   return filter.form == FilterForm::pi ? ratio : 1 / ratio;
 }
 
@@ -35,9 +34,8 @@ Real cutoff_hz(const ThreeElementFilter& filter) {
   const Real a = match(filter);
   // Half of the power where s (a - (2 - s^2) / a) / 2 = 1. That has one root s = f / f0 above zero,
   // which is beyond those of -1 in its place, and not beyond sqrt(2) + a.
-  const Real ratio = root_between(0, std::numbers::sqrt2 + a, [a](Real s) {
-    return s * (s * s + (a * a - 2)) - 2 * a;
-  });
+  const Real ratio = root_between(0, std::numbers::sqrt2 + a,
+                                  [a](Real s) { return s * (s * s + (a * a - 2)) - 2 * a; });
   const Real resonance = resonance_hz(filter);
   return filter.band == PassBand::low ? resonance * ratio : resonance / ratio;
 }

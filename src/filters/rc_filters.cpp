@@ -29,8 +29,7 @@ ActiveCell active_high_pass_ohm(Real cutoff_hz, Real capacitance_f) {
 }
 
 Real butterworth_attenuation_db(PassBand band, int order, Real cutoff_hz, Real frequency_hz) {
-  const Real beyond =
-      band == PassBand::low ? frequency_hz / cutoff_hz : cutoff_hz / frequency_hz;
+  const Real beyond = band == PassBand::low ? frequency_hz / cutoff_hz : cutoff_hz / frequency_hz;
   return attenuation_db(pow(beyond, 2 * order));
 }
 
