@@ -3,7 +3,7 @@
 //     cmake -S examples/engine -B build/example && cmake --build build/example
 //     build/example/shortwave 7.1
 
-#include <antennas/wire_antennas.h>
+#include <antennas/dipoles/wire_antennas.h>
 #include <coils/single_layer_coil.h>
 #include <common/arithmetic.h>
 #include <common/leading_number.h>

@@ -44,7 +44,20 @@ Complex sinh(Complex z) { return checked(std::sinh(unchecked(z))); }
 
 Complex cosh(Complex z) { return checked(std::cosh(unchecked(z))); }
 
-Complex tanh(Complex z) { return checked(std::tanh(unchecked(z))); }
+Complex tanh(Complex z) {
+  // Kahan's formulas: the function of some C libraries overflows where the result is next to 1.
+  constexpr double beyond_which_it_is_one = 20;
+  const Real x = z.real();
+  const Real y = z.imaginary();
+  if (abs(x) > beyond_which_it_is_one) {
+    return {x < 0 ? -1.0 : 1.0, 4 * sin(y) * cos(y) * exp(-2 * abs(x))};
+  }
+  const Real tangent = tan(y);
+  const Real beta = 1 + tangent * tangent;
+  const Real sine = sinh(x);
+  const Real denominator = 1 + beta * sine * sine;
+  return {beta * cosh(x) * sine / denominator, tangent / denominator};
+}
 
 Real parallel(Real a, Real b) { return side_by_side(a, b); }
 

@@ -28,7 +28,7 @@
 // boxes, and ends only as it is meant to: with its last window, or by a fault of the arithmetic
 // that the design leaves unguarded.
 //
-//   ETERLAB_MONKEY_EVENTS  how many keys and clicks in all
+//   ETERLAB_MONKEY_EVENTS  how many keys and clicks in all, instead of a share for each window
 //   ETERLAB_MONKEY_SEED    the first seed; each seed is one session of some thousand events
 //   ETERLAB_MONKEY_TRACE   set to anything: every action is printed before it is done
 //
@@ -447,8 +447,8 @@ class Monkey : public WindowTest, public ::testing::WithParamInterface<int> {
 
 TEST_P(Monkey, BreaksNothing) {
   const int first_seed = qEnvironmentVariable("ETERLAB_MONKEY_SEED", "1").toInt();
-  const int events =
-      qEnvironmentVariable("ETERLAB_MONKEY_EVENTS", QString::number(MONKEY_EVENTS)).toInt();
+  const qsizetype share = MONKEY_EVENTS_FOR_A_WINDOW * std::ssize(windows());
+  const int events = qEnvironmentVariable("ETERLAB_MONKEY_EVENTS", QString::number(share)).toInt();
   for (int session = GetParam(); session * events_of_a_session < events && !HasFailure();
        session += shards) {
     play(first_seed + session);
