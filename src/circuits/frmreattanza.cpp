@@ -31,7 +31,8 @@ class frmreattanza final : public ui::Window {
   ui::TextBoxArray txtinput{this, "txtinput", 2};
   ui::Note Label1{this, "Label1", "L'uso dei Mhz e dei micro Henry ottimizza il calcolo per le HF"};
   ui::ComputeButton cmdcalcola{this, "cmdcalcola"};
-  ui::Button cmdchiamabobine{this, "cmdchiamabobine", "Costruzione bobine"};
+  ui::CompanionButton cmdchiamabobine{
+      *this, "cmdchiamabobine", "Costruzione bobine", {"frmbobine", {180, 180}, {4100, 2800}}};
   ui::ExitButton cmnesci{this, "cmnesci", "ESCI"};
 
  public:
@@ -50,7 +51,6 @@ class frmreattanza final : public ui::Window {
     Option1.on_click([this](int index) { Option1_click(index); });
     blank_on_change({&txtinput[0], &txtinput[1]}, {&lblinput[3]});
     cmdcalcola.on_click([this] { cmdcalcola_click(); });
-    cmdchiamabobine.on_click([this] { open_companion("frmbobine", {180, 180}, {4100, 2800}); });
   }
 
   void show_example() override {

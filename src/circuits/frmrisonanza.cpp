@@ -25,7 +25,8 @@ class frmrisonanza final : public ui::Window {
                        "COME RISULTATO DEL CALCOLO AVREMO LA FREQUENZA IN KHz , LA LUNGHEZZA "
                        "D'ONDA IN METRI E LA REATTANZA XL = XC IN Ohm"};
   ui::ComputeButton cmdcalcola{area, "cmdcalcola"};
-  ui::Button cmdchiamabobine{area, "cmdchiamabobine", "DATI COSTRUZIONE BOBINE"};
+  ui::CompanionButton cmdchiamabobine{
+      *this, "cmdchiamabobine", "DATI COSTRUZIONE BOBINE", {"frmbobine", {180, 180}, {4100, 2800}}};
   ui::ExitButton cdmesci{area, "cdmesci", "ESCI"};
 
  public:
@@ -39,7 +40,6 @@ class frmrisonanza final : public ui::Window {
     blank_on_change({&txtinduttanza, &txtcapacita},
                     {&lbloutputfrequenza, &lbloutputmetri, &lbloutputreattanza});
     cmdcalcola.on_click([this] { cmdcalcola_click(); });
-    cmdchiamabobine.on_click([this] { open_companion("frmbobine", {180, 180}, {4100, 2800}); });
   }
 
   void load() override {

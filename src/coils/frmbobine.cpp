@@ -48,7 +48,8 @@ class frmbobine final : public ui::Window {
                   "della bobina, anziché dalla sezione del filo, facilita anche la realizzazione "
                   "di bobine a spire spaziate."};
   ui::Button cmdaprevhf{this, "cmdaprevhf", "per bobine VHF clicca qui   \"Costr.Bobine VHF \""};
-  ui::Button cmdchiamaawg{this, "cmdchiamaawg", "CONVERSIONI AWG"};
+  ui::CompanionButton cmdchiamaawg{
+      *this, "cmdchiamaawg", "CONVERSIONI AWG", {"frmawg", {180, 180}, {4100, 3000}}};
   ui::ComputeButton cmdcalcola{this, "cmdcalcola"};
   ui::ExitButton cmdesci{this, "cmdesci", "E X I T"};
 
@@ -74,7 +75,6 @@ class frmbobine final : public ui::Window {
       box->on_change([this] { withdraw_results(); });
     }
     cmdaprevhf.on_click([] { open("frmmicrobobine"); });
-    cmdchiamaawg.on_click([this] { open_companion("frmawg", {180, 180}, {4100, 3000}); });
     cmdcalcola.on_click([this] { cmdcalcola_click(); });
   }
 

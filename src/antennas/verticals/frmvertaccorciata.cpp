@@ -30,7 +30,8 @@ class frmvertaccorciata final : public ui::Window {
   ui::Label lbllung{disegno, "lbllung", "lung."};
   ui::Label lblradiali{disegno, "lblradiali"};
   ui::Label Label7{disegno, "Label7", "non in scala"};
-  ui::Button cmdchiamabobine{this, "cmdchiamabobine", "COSTRUZIONE BOBINA"};
+  ui::CompanionButton cmdchiamabobine{
+      *this, "cmdchiamabobine", "COSTRUZIONE BOBINA", {"frmbobine", {180, 180}, {4100, 2800}}};
   ui::ComputeButton cmdcalcola{this, "cmdcalcola"};
   ui::ExitButton cmdesci{this, "cmdesci"};
 
@@ -48,7 +49,6 @@ class frmvertaccorciata final : public ui::Window {
         112);
 
     cmdcalcola.on_click([this] { cmdcalcola_click(); });
-    cmdchiamabobine.on_click([this] { open_companion("frmbobine", {180, 180}, {4100, 2800}); });
   }
 
   void show_example() override {
