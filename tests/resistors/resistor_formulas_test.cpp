@@ -1,13 +1,10 @@
 #include <gtest/gtest.h>
 
-<<<<<<< HEAD
-#include "resistors/meter_resistance.h"
-=======
 #include <tuple>
 
 #include "common/physics.h"
 #include "resistors/meter_range.h"
->>>>>>> cc9bd2de7ac9a9d453172d7ad6fdde5b01957530
+#include "resistors/meter_resistance.h"
 #include "resistors/series_resistor.h"
 #include "resistors/voltage_divider.h"
 #include "resistors/voltmeter_probe.h"

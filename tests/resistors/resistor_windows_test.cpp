@@ -172,7 +172,6 @@ TEST_F(frmreszener, TheClassSetsTheStandingCurrent) {
          "12 V|173 ohm|5,1 V|Valore della resistenza = Ohm 173|Dissipazione in Watt = 0,276");
 }
 
-<<<<<<< HEAD
 using frmresistenze = FormTest;
 
 // By hand: 100 x 220 / 320, 1 / (1/10 + 1/22 + 1/47) = 5.99768.
@@ -183,7 +182,8 @@ TEST_F(frmresistenze, AddInSeries) {
   expect("1|10|22|47|||", "IN SERIE = 79 kOhm|IN PARALLELO = 5,998 kOhm");
   expect("2||||1|x|", "|");
   EXPECT_EQ(window.text("lblvaloreserie_3 lblvaloreparallelo_0"), "1 MOhm|");
-=======
+}
+
 using frmshunt = FormTest;
 
 TEST_F(frmshunt, ShuntAndItsWire) {
@@ -220,7 +220,6 @@ TEST_F(frmvoltmetro, SeriesResistorInTheMiddleOfTheScreen) {
   expect("1500|100|50",
          "RESISTENZA IN SERIE = 498,5 kOhm|POTENZA DISSIPATA = 4,985 mW|"
          "SENSIBILITA' = 10 kOhm PER VOLT|VALORE E24 = 510 kOhm : FONDO SCALA 51,15 Volt");
->>>>>>> cc9bd2de7ac9a9d453172d7ad6fdde5b01957530
 }
 
 }  // namespace
