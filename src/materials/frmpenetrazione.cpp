@@ -16,7 +16,7 @@ class frmpenetrazione final : public ui::Calculator {
   ui::Result lblfilo{this, "lblfilo"};
   ui::Result lblresistenza{this, "lblresistenza"};
   ui::Result lblspessore{this, "lblspessore"};
-  ui::Plot plot{this, "plot", depth_axis(), density_axis(), 60, 28};
+  ui::Plot plot{this, "plot", depth_axis("mm"), density_axis(), 60, 28};
 
  public:
   frmpenetrazione() : Calculator{"frmpenetrazione", "EFFETTO PELLE: SPESSORE DI PENETRAZIONE"} {
@@ -31,7 +31,9 @@ class frmpenetrazione final : public ui::Calculator {
  private:
   static constexpr int deepest = 5;
 
-  static ui::Axis depth_axis() { return {.title = "PROFONDITA'", .unit = "m"}; }
+  static ui::Axis depth_axis(std::string_view unit) {
+    return {.title = "PROFONDITA'", .unit = std::string{unit}};
+  }
   static ui::Axis density_axis() {
     return {.title = "DENSITA' DI CORRENTE", .unit = "%", .range = ui::Interval{0, 100}};
   }
@@ -51,11 +53,16 @@ class frmpenetrazione final : public ui::Calculator {
   }
 
   void show_density(Real depth_m) {
-    const auto density = [depth_m](Real at_m) { return 100 * exp(-at_m / depth_m); };
-    plot.curve(density, 0, deepest * depth_m);
+    constexpr double mm_in_m = 1000;
+    constexpr double um_in_m = 1e6;
+    const bool is_coarse = deepest * depth_m * mm_in_m >= 1;
+    const Real depth = depth_m * (is_coarse ? mm_in_m : um_in_m);
+    const auto density = [depth](Real at) { return 100 * exp(-at / depth); };
+    plot.axes(depth_axis(is_coarse ? "mm" : "\u00b5m"), density_axis());
+    plot.curve(density, 0, deepest * depth);
     for (int depths = 1; depths <= deepest; ++depths) {
-      const Real at_m = depths * depth_m;
-      plot.marker(at_m, plain(depths) + " \u03b4: " + fixed(density(at_m), 1) + " %");
+      const Real at = depths * depth;
+      plot.marker(at, plain(depths) + " \u03b4: " + fixed(density(at), 1) + " %");
     }
   }
 };
