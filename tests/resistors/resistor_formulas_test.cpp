@@ -4,12 +4,70 @@
 
 #include "common/physics.h"
 #include "resistors/meter_range.h"
+#include "resistors/meter_resistance.h"
 #include "resistors/series_resistor.h"
+#include "resistors/voltage_divider.h"
+#include "resistors/voltmeter_probe.h"
 
 // What the windows leave open: digits that they do not show, ties, limits and faults.
 
 namespace eterlab::resistors {
 namespace {
+
+// The currents at the output and the powers of the network, whatever the values are.
+TEST(VoltageDivider, KeepsCurrentsAndPowers) {
+  const double table[][4] = {
+      {12, 1000, 2200, 4700}, {1e12, 1e-12, 1e12, 1e-12}, {1e-12, 1e12, 1e-12, 1e12}, {5, 1, 1, 1}};
+  for (const auto& [input_v, upper_ohm, lower_ohm, load_ohm] : table) {
+    const LoadedDivider divider = loaded_divider(input_v, upper_ohm, lower_ohm, load_ohm);
+    const double output_v = divider.output_v.value();
+    const double current_a = divider.input_current_a.value();
+    EXPECT_NEAR((output_v / lower_ohm + output_v / load_ohm) / current_a, 1, 1e-15);
+    const double dissipated_w = divider.upper_power_w.value() + divider.lower_power_w.value();
+    EXPECT_NEAR((dissipated_w + output_v * output_v / load_ohm) / (input_v * current_a), 1, 1e-15);
+  }
+}
+
+// Loaded by what the wanted current takes at the wanted voltage, the design gives that voltage.
+TEST(VoltageDivider, DesignAndAnalysisAgree) {
+  const double table[][4] = {{13.8, 5, 0.02, 0.005}, {1, 0.999999, 1e-6, 1}, {1000, 1e-3, 5, 1e-9}};
+  for (const auto& [input_v, output_v, load_a, lower_a] : table) {
+    const DividerDesign design = design_divider(input_v, output_v, load_a, lower_a);
+    const LoadedDivider divider =
+        loaded_divider(input_v, design.upper_ohm, design.lower_ohm, output_v / load_a);
+    EXPECT_NEAR(divider.output_v.value() / output_v, 1, 1e-12);
+    EXPECT_NEAR((divider.input_current_a / design.input_current_a).value(), 1, 1e-12);
+    EXPECT_NEAR((divider.upper_power_w / design.upper_power_w).value(), 1, 1e-12);
+    EXPECT_NEAR((divider.lower_power_w / design.lower_power_w).value(), 1, 1e-12);
+  }
+}
+
+// A known meter is read with and without its shunt, node by node.
+TEST(MeterResistance, IsFoundFromTheReadingsOfAKnownMeter) {
+  const double table[][3] = {{47000, 1000, 1022}, {10, 1e6, 5000}, {1e9, 1e-3, 1e-3}, {1, 1, 1e3}};
+  for (const auto& [series_ohm, shunt_ohm, meter_ohm] : table) {
+    constexpr double battery_v = 1.5;
+    const double first_a = battery_v / (series_ohm + meter_ohm);
+    const double node_v = battery_v / series_ohm / (1 / series_ohm + 1 / shunt_ohm + 1 / meter_ohm);
+    const auto found_ohm = meter_resistance_ohm(series_ohm, shunt_ohm, first_a, node_v / meter_ohm);
+    ASSERT_TRUE(found_ohm.has_value());
+    // Where the shunt hardly changes the reading, its digits are few.
+    EXPECT_NEAR(found_ohm->value() / meter_ohm, 1, 1e-8);
+  }
+  EXPECT_EQ(meter_resistance_ohm(1000, 1000, 2, 1), std::nullopt);
+}
+
+TEST(VoltmeterProbe, NoResistorHasMoreThanItBears) {
+  for (const double highest_v : {1.0, 350.0, 388.8, 389.0, 3000.0, 1e6, 1e12}) {
+    const VoltmeterProbe probe = voltmeter_probe(1e7, 10, highest_v);
+    const Real each_v = probe.current_a * probe.resistor_ohm;
+    EXPECT_LE(each_v.value(), 350 * (1 + 1e-9));
+    // One less would not do.
+    EXPECT_TRUE(probe.resistors == 1 ||
+                each_v * probe.resistors / (probe.resistors - 1) > 350 * (1 - 1e-15));
+    EXPECT_NEAR((probe.meter_v + each_v * probe.resistors).value() / highest_v, 1, 1e-15);
+  }
+}
 
 TEST(ZenerResistor, WholeOhmWithinSixteenBits) {
   // Exact in binary: 2.5 ohm and 3.5 ohm go to the even neighbour.
