@@ -24,6 +24,8 @@
 #include "lines/matching/gamma_match.h"
 #include "lines/standing_wave.h"
 #include "materials/copper_wire.h"
+#include "materials/skin_effect.h"
+#include "materials/strand.h"
 #include "power/three_terminal_regulator.h"
 #include "resistors/meter_resistance.h"
 #include "resistors/pads/handbook_pads.h"
@@ -162,6 +164,8 @@ void register_coils() {
 void register_materials() {
   using namespace materials;
   call("materials/copper_wire", copper_wire, 0.5, 100.0);
+  call("materials/round_wire_impedance_ratio", round_wire_impedance_ratio, 10.0);
+  call("materials/wires_in_strand", wires_in_strand, 37);
 }
 
 void register_antennas() {

@@ -21,6 +21,7 @@ TEST_F(CompanionWindows, StandAtTheirPlacesAlsoWhenTheyAreOpenAlready) {
       {"mnurisonanza", "cmdchiamabobine", {12, 12}, "frmbobine", {273, 187}},
       {"mnufiltripassaalto", "cmdbobine", {12, 12}, "frmbobine", {273, 187}},
       {"mnubobine", "cmdchiamaawg", {12, 12}, "frmawg", {273, 200}},
+      {"mnumisureInglesi", "cmdaltreconversioni", {12, 12}, "frmaltreconversioni", {273, 187}},
       {"mnuyagi3", "cmdgamma", {23, 23}, "frmgammamatch", {533, 533}},
       {"mnuyagi5", "cmdgamma", {13, 13}, "frmgammamatch", {533, 533}},
   };
