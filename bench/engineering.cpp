@@ -29,8 +29,13 @@
 #include "lines/standing_wave.h"
 #include "materials/copper_wire.h"
 #include "power/three_terminal_regulator.h"
+#include "resistors/meter_resistance.h"
 #include "resistors/pads/handbook_pads.h"
+#include "resistors/pads/resistive_pads.h"
+#include "resistors/power_rating.h"
 #include "resistors/series_resistor.h"
+#include "resistors/voltage_divider.h"
+#include "resistors/voltmeter_probe.h"
 #include "signals/decibel.h"
 #include "signals/decibel_microvolt.h"
 #include "signals/free_space.h"
@@ -140,6 +145,16 @@ void register_resistors() {
   call("resistors/handbook_t_pad", handbook_t_pad, 75.0, 50.0, 10.0);
   call("resistors/handbook_pi_pad", handbook_pi_pad, 75.0, 50.0, 10.0);
   call("resistors/handbook_bridged_t_pad", handbook_bridged_t_pad, 50.0, 10.0);
+  call("resistors/attenuator_cell", attenuator_cell, Cell::t, 50.0, 6.0);
+  call("resistors/dissipated_share", dissipated_share, 6.0);
+  call("resistors/least_loss_db", least_loss_db, 600.0, 300.0);
+  call("resistors/h_pad", h_pad, 600.0, 300.0, 15.0);
+  call("resistors/o_pad", o_pad, 600.0, 300.0, 15.0);
+  call("resistors/loaded_divider", loaded_divider, 12.0, 1000.0, 2200.0, 10000.0);
+  call("resistors/design_divider", design_divider, 13.8, 5.0, 0.02, 0.005);
+  call("resistors/power_rating", power_rating, 470.0, 0.25);
+  call("resistors/voltmeter_probe", voltmeter_probe, 1e7, 10.0, 3000.0);
+  call("resistors/meter_resistance_ohm", meter_resistance_ohm, 47000.0, 1000.0, 1e-4, 5e-5);
   call("resistors/zener_standing_ma", zener_standing_ma, ZenerClass::one_watt);
   call("resistors/zener_series_resistor", zener_series_resistor, 12.0, 5.1, 20.0, 10);
   call("resistors/led_forward_v", led_forward_v, LedColour::green);

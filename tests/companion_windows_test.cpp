@@ -9,6 +9,13 @@ using CompanionWindows = WindowTest;
 // The design's twips over 15.
 TEST_F(CompanionWindows, StandAtTheirPlacesAlsoWhenTheyAreOpenAlready) {
   const std::tuple<const char*, const char*, QPoint, const char*, QPoint> table[] = {
+      {"mnuvalinduttanza", "cmdchiamabobine", {12, 12}, "frmbobine", {273, 187}},
+      {"mnuvalinduttanza", "cmdchiamatoroidi", {12, 12}, "frmamidon", {273, 187}},
+      {"mnulcparallelo", "cmdchiamabobine", {12, 12}, "frmbobine", {273, 187}},
+      {"mnuLCserieparall", "cmdchiamabobine", {12, 12}, "frmbobine", {273, 187}},
+      {"mnuLL", "cmdchiamabobine", {27, 20}, "frmbobine", {273, 187}},
+      {"mnuRL", "cmdchiamabobine", {27, 20}, "frmbobine", {273, 187}},
+      {"mnuRLC", "cmdchiamabobine", {27, 20}, "frmbobine", {273, 187}},
       {"mnuverticale", "cmdchiamabobine", {12, 12}, "frmbobine", {273, 187}},
       {"mnureattanza", "cmdchiamabobine", {12, 12}, "frmbobine", {273, 187}},
       {"mnurisonanza", "cmdchiamabobine", {12, 12}, "frmbobine", {273, 187}},

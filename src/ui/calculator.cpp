@@ -5,26 +5,11 @@
 #include <QLineEdit>
 
 #include "common/number_text.h"
-#include "common/regional_settings.h"
 #include "ui/desktop.h"
 #include "ui/list.h"
 #include "ui/text.h"
 
 namespace eterlab::ui {
-
-namespace {
-
-/// As one types it.
-std::string typed(double limit) {
-  std::string text = plain(limit);
-  const std::string& separator = regional_settings().decimal_separator;
-  if (const auto at = text.find(separator); at != std::string::npos) {
-    text.replace(at, separator.size(), ".");
-  }
-  return text;
-}
-
-}  // namespace
 
 Calculator::Calculator(std::string_view name, std::string_view title, Computes when)
     : Window{name, title},
@@ -74,6 +59,11 @@ void Calculator::lay_out(const Item& contents, std::initializer_list<Button*> ot
 }
 
 void Calculator::name_hint(std::string_view name) { hint_->setObjectName(to_qt(name)); }
+
+void Calculator::name_exit(std::string_view name, std::string_view caption) {
+  cmdesci_.setObjectName(to_qt(name));
+  cmdesci_.set_caption(caption);
+}
 
 void Calculator::change() {
   blank_results();
@@ -134,7 +124,7 @@ void Calculator::check_ranges() const {
 }
 
 void Calculator::check_presence(Input& input) const {
-  require(!input.is_required() || input.value() > 0, input, "MANCANO DATI");
+  require(input.is_told(), input, "MANCANO DATI");
 }
 
 void Calculator::check_range(Input& input) const {
@@ -143,7 +133,7 @@ void Calculator::check_range(Input& input) const {
   }
   const Range range = input.range();
   require(input.is_in_range(), input,
-          "VALORI AMMESSI: DA " + typed(range.lowest) + " A " + typed(range.highest));
+          "VALORI AMMESSI: DA " + as_typed(range.lowest) + " A " + as_typed(range.highest));
 }
 
 void Calculator::require(bool holds, QWidget& focus, std::string_view text) const {

@@ -27,7 +27,8 @@ class Input final : public TextBox {
     std::string_view holds = {};  ///< at opening
     /// Unless told, the widest one; of an optional box it begins at 0.
     std::optional<Range> range = {};
-    /// A required number must be above zero. An optional box counts as 0 when it is empty.
+    /// A required number must be above zero or, where its range goes below, just be there. An
+    /// optional box counts as 0 when it is empty.
     bool is_optional = false;
     /// What an optional box says to a number below zero, where that is not just out of its range.
     std::string_view negative = {};
@@ -46,7 +47,8 @@ class Input final : public TextBox {
   [[nodiscard]] Real value() const;
   [[nodiscard]] Range range() const;
   [[nodiscard]] bool is_in_range() const;
-  [[nodiscard]] bool is_required() const { return !is_optional_; }
+  /// Whether it holds what is required.
+  [[nodiscard]] bool is_told() const;
   [[nodiscard]] const std::string& negative() const { return negative_; }
   /// For windows that compute as the user types: the number where it can be computed with.
   [[nodiscard]] std::optional<Real> usable() const;

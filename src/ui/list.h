@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <initializer_list>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -25,8 +26,20 @@ class List final : public QComboBox {
   operator Field() const { return {prompt_.get(), const_cast<List*>(this), nullptr}; }
 
   void add(std::string_view entry);
+  /// Every entry of a catalogue.
+  template <class Catalogue>
+  void add_names_of(const Catalogue& catalogue) {
+    for (const auto& entry : catalogue) {
+      add(entry.name);
+    }
+  }
   /// The place of the chosen entry, from 0.
   [[nodiscard]] int chosen() const { return currentIndex(); }
+  /// The entry chosen of the catalogue that is listed.
+  template <class Entry>
+  [[nodiscard]] const Entry& chosen_of(std::span<const Entry> catalogue) const {
+    return catalogue[static_cast<std::size_t>(chosen())];
+  }
   [[nodiscard]] std::string content() const;
   void choose(int index) { setCurrentIndex(index); }
   /// The entry of that text, which must be there.

@@ -1,0 +1,28 @@
+#include "signals/dishes/dish.h"
+
+#include <numbers>
+
+#include "common/physics.h"
+#include "signals/decibel_watt.h"
+
+namespace eterlab::signals {
+
+DishFocus dish_focus(Real diameter, Real depth) {
+  const Real focal_length = diameter * diameter / (16 * depth);
+  return {.focal_length = focal_length,
+          .focal_ratio = focal_length / diameter,
+          .feed_angle_degrees = 4 * atan(4 * depth / diameter) * 180 / pi,
+          .focus_to_rim = focal_length + depth};
+}
+
+DishGain dish_gain(Real diameter_m, Real wavelength_m, Real efficiency) {
+  constexpr double beamwidth_wavelengths_degrees = 70;
+  const Real diameter_wavelengths = diameter_m / wavelength_m;
+  return {.gain_dbi = level_dbw(efficiency) + 2 * level_dbw(pi * diameter_wavelengths),
+          .beamwidth_degrees = beamwidth_wavelengths_degrees / diameter_wavelengths,
+          .effective_area_m2 = efficiency * pi * diameter_m * diameter_m / 4,
+          .far_field_m = 2 * diameter_m * diameter_wavelengths,
+          .surface_error_m = wavelength_m / (4 * pi) * sqrt(0.1 * std::numbers::ln10)};
+}
+
+}  // namespace eterlab::signals
