@@ -12,6 +12,7 @@
 #include "circuits/handbook_resonance.h"
 #include "circuits/ohms_law.h"
 #include "circuits/proportioned_tank.h"
+#include "circuits/time_constant.h"
 #include "coils/flat_spiral.h"
 #include "coils/multilayer_coil.h"
 #include "coils/single_layer_coil.h"
@@ -19,7 +20,10 @@
 #include "coils/toroids/toroid_cores.h"
 #include "coils/toroids/toroid_transformer.h"
 #include "coils/toroids/toroid_tuning.h"
+#include "filters/filter_response.h"
 #include "filters/lc_filters.h"
+#include "filters/lc_notch.h"
+#include "filters/rc_filters.h"
 #include "lines/coax_cables.h"
 #include "lines/matching/gamma_match.h"
 #include "lines/standing_wave.h"
@@ -104,6 +108,9 @@ void register_circuits() {
   call("circuits/handbook_capacitive_reactance_ohm", handbook_capacitive_reactance_ohm, 7.1, 100.0);
   call("circuits/handbook_resonance", handbook_resonance, 10.0, 100.0);
   call("circuits/proportioned_tank", proportioned_tank, 7.1);
+  call("circuits/risen_to", risen_to, 12.0, 0.03, 0.047);
+  call("circuits/fallen_to", fallen_to, 12.0, 0.03, 0.047);
+  call("circuits/time_constants_until", time_constants_until, 8.0, 12.0);
 }
 
 void register_filters() {
@@ -113,6 +120,23 @@ void register_filters() {
   call("filters/trap_low_pass", trap_low_pass, 30.0, 50.0);
   call("filters/band_pass", band_pass, 50.0, 7.0, 7.2);
   call("filters/split", split, band_pass(50, 7, 7.2));
+  const NotchTask notch{7.1e6, 400e3, 50};
+  call("filters/trap", trap, TrapForm::series_to_ground, notch);
+  call("filters/notch_edges", notch_edges, notch);
+  call("filters/notch_attenuation_db", notch_attenuation_db, notch, 150.0, 7.0e6);
+  const ThreeElementFilter pi_filter{PassBand::low, FilterForm::pi, 1.59e-6, 318e-12, 50};
+  call(
+      "filters/attenuation_db",
+      [](const ThreeElementFilter& filter, Real frequency_hz) {
+        return attenuation_db(filter, frequency_hz);
+      },
+      pi_filter, 14.2e6);
+  call("filters/cutoff_hz", cutoff_hz, pi_filter);
+  call("filters/active_low_pass_f", active_low_pass_f, 2700.0, 1e4);
+  call("filters/active_high_pass_ohm", active_high_pass_ohm, 300.0, 1e-8);
+  call("filters/butterworth_attenuation_db", butterworth_attenuation_db, PassBand::low, 2, 2700.0,
+       5000.0);
+  call("filters/twin_t_attenuation_db", twin_t_attenuation_db, 50.0, 60.0);
 }
 
 void register_resistors() {
