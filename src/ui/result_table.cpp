@@ -1,5 +1,6 @@
 #include "ui/result_table.h"
 
+#include <QFontMetrics>
 #include <QGridLayout>
 #include <string>
 
@@ -18,6 +19,14 @@ class Cell : public Label {
     setAlignment((is_text ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
   }
   using Label::operator=;
+
+  /// Columns keep their width whichever row is marked.
+  [[nodiscard]] QSize sizeHint() const override {
+    QFont bold = font();
+    bold.setBold(true);
+    return Label::sizeHint().expandedTo(
+        QFontMetrics{bold}.boundingRect({}, Qt::AlignLeft, text()).size());
+  }
 };
 
 class ResultCell final : public Cell, public Blankable {
