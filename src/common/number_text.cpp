@@ -63,13 +63,13 @@ std::string pattern_text(DecimalDigits number, std::string_view mask) {
   return text;
 }
 
-std::string plain_text(DecimalDigits number) {
+std::string plain_text(DecimalDigits number, std::string_view decimal_separator) {
   constexpr int smallest_exponent = -4;
   number.drop_trailing_zeros();
   if (number.exponent() >= smallest_exponent && number.exponent() < number.precision()) {
     std::string text = sign(number) + number.integer_part();
     if (number.decimals() > 0) {
-      text += regional_settings().decimal_separator;
+      text += decimal_separator;
       text += number.fraction(number.decimals());
     }
     return text;
@@ -77,13 +77,17 @@ std::string plain_text(DecimalDigits number) {
   const std::string_view digits = number.digits();
   std::string text = sign(number) + digits.front();
   if (digits.size() > 1) {
-    text += regional_settings().decimal_separator;
+    text += decimal_separator;
     text += digits.substr(1);
   }
   const std::string exponent = std::to_string(std::abs(number.exponent()));
   text += number.exponent() < 0 ? "E-" : "E+";
   text += exponent.size() < 2 ? "0" + exponent : exponent;
   return text;
+}
+
+std::string plain_text(const DecimalDigits& number) {
+  return plain_text(number, regional_settings().decimal_separator);
 }
 
 /// The power of ten of the prefix under which a number of that exponent is shown with the unit.
@@ -145,5 +149,7 @@ std::string eng(Real x, std::string_view unit, int digits) {
 Real rounded(Real x, int decimals) { return rounded_value(DecimalDigits{x}, decimals); }
 Real rounded(Single x, int decimals) { return rounded_value(DecimalDigits{x}, decimals); }
 Real rounded(Real x) { return rounded(x, regional_settings().default_decimals); }
+
+std::string as_typed(Real x) { return plain_text(DecimalDigits{x}, "."); }
 
 }  // namespace eterlab

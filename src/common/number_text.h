@@ -49,6 +49,9 @@ std::string eng(Real x, std::string_view unit, int digits = 4);
 
 /// @}
 
+/// As one types it into a box: as plain() shows it, but with a point whatever the settings are.
+std::string as_typed(Real x);
+
 /// The value that fixed(x, decimals) shows. Throws overflow where rounding the largest numbers
 /// leaves the range.
 Real rounded(Real x, int decimals);

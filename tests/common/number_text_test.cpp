@@ -119,6 +119,12 @@ TEST_F(NumberText, EngTakesThePrefixOfTheUnit) {
   EXPECT_EQ(eng(1 / Real{3}, "V"), "333,3 mV");
 }
 
+TEST_F(NumberText, AsTypedHasAPointAndNoGroups) {
+  EXPECT_EQ(as_typed(1.0006), "1.0006");
+  EXPECT_EQ(as_typed(-1234567.5), "-1234567.5");
+  EXPECT_EQ(as_typed(1.5e-12), "1.5E-12");
+}
+
 TEST_F(NumberText, SinglesHaveSevenDigits) {
   EXPECT_EQ(plain(Single{0.1}), "0,1");
   EXPECT_EQ(plain(Single{12345678}), "1,234568E+07");
