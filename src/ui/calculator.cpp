@@ -5,26 +5,11 @@
 #include <QLineEdit>
 
 #include "common/number_text.h"
-#include "common/regional_settings.h"
 #include "ui/desktop.h"
 #include "ui/list.h"
 #include "ui/text.h"
 
 namespace eterlab::ui {
-
-namespace {
-
-/// As one types it.
-std::string typed(double limit) {
-  std::string text = plain(limit);
-  const std::string& separator = regional_settings().decimal_separator;
-  if (const auto at = text.find(separator); at != std::string::npos) {
-    text.replace(at, separator.size(), ".");
-  }
-  return text;
-}
-
-}  // namespace
 
 Calculator::Calculator(std::string_view name, std::string_view title, Computes when)
     : Window{name, title},
@@ -143,7 +128,7 @@ void Calculator::check_range(Input& input) const {
   }
   const Range range = input.range();
   require(input.is_in_range(), input,
-          "VALORI AMMESSI: DA " + typed(range.lowest) + " A " + typed(range.highest));
+          "VALORI AMMESSI: DA " + as_typed(range.lowest) + " A " + as_typed(range.highest));
 }
 
 void Calculator::require(bool holds, QWidget& focus, std::string_view text) const {
