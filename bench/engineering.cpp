@@ -12,6 +12,7 @@
 #include "circuits/handbook_resonance.h"
 #include "circuits/ohms_law.h"
 #include "circuits/proportioned_tank.h"
+#include "circuits/time_constant.h"
 #include "coils/flat_spiral.h"
 #include "coils/multilayer_coil.h"
 #include "coils/single_layer_coil.h"
@@ -19,7 +20,10 @@
 #include "coils/toroids/toroid_cores.h"
 #include "coils/toroids/toroid_transformer.h"
 #include "coils/toroids/toroid_tuning.h"
+#include "filters/filter_response.h"
 #include "filters/lc_filters.h"
+#include "filters/lc_notch.h"
+#include "filters/rc_filters.h"
 #include "lines/coax_cables.h"
 #include "lines/geometry/coaxial_line.h"
 #include "lines/geometry/facing_strips.h"
@@ -30,9 +34,16 @@
 #include "lines/matching/gamma_match.h"
 #include "lines/standing_wave.h"
 #include "materials/copper_wire.h"
+#include "materials/skin_effect.h"
+#include "materials/strand.h"
 #include "power/three_terminal_regulator.h"
+#include "resistors/meter_resistance.h"
 #include "resistors/pads/handbook_pads.h"
+#include "resistors/pads/resistive_pads.h"
+#include "resistors/power_rating.h"
 #include "resistors/series_resistor.h"
+#include "resistors/voltage_divider.h"
+#include "resistors/voltmeter_probe.h"
 #include "signals/decibel.h"
 #include "signals/decibel_microvolt.h"
 #include "signals/free_space.h"
@@ -103,6 +114,9 @@ void register_circuits() {
   call("circuits/handbook_capacitive_reactance_ohm", handbook_capacitive_reactance_ohm, 7.1, 100.0);
   call("circuits/handbook_resonance", handbook_resonance, 10.0, 100.0);
   call("circuits/proportioned_tank", proportioned_tank, 7.1);
+  call("circuits/risen_to", risen_to, 12.0, 0.03, 0.047);
+  call("circuits/fallen_to", fallen_to, 12.0, 0.03, 0.047);
+  call("circuits/time_constants_until", time_constants_until, 8.0, 12.0);
 }
 
 void register_filters() {
@@ -112,6 +126,23 @@ void register_filters() {
   call("filters/trap_low_pass", trap_low_pass, 30.0, 50.0);
   call("filters/band_pass", band_pass, 50.0, 7.0, 7.2);
   call("filters/split", split, band_pass(50, 7, 7.2));
+  const NotchTask notch{7.1e6, 400e3, 50};
+  call("filters/trap", trap, TrapForm::series_to_ground, notch);
+  call("filters/notch_edges", notch_edges, notch);
+  call("filters/notch_attenuation_db", notch_attenuation_db, notch, 150.0, 7.0e6);
+  const ThreeElementFilter pi_filter{PassBand::low, FilterForm::pi, 1.59e-6, 318e-12, 50};
+  call(
+      "filters/attenuation_db",
+      [](const ThreeElementFilter& filter, Real frequency_hz) {
+        return attenuation_db(filter, frequency_hz);
+      },
+      pi_filter, 14.2e6);
+  call("filters/cutoff_hz", cutoff_hz, pi_filter);
+  call("filters/active_low_pass_f", active_low_pass_f, 2700.0, 1e4);
+  call("filters/active_high_pass_ohm", active_high_pass_ohm, 300.0, 1e-8);
+  call("filters/butterworth_attenuation_db", butterworth_attenuation_db, PassBand::low, 2, 2700.0,
+       5000.0);
+  call("filters/twin_t_attenuation_db", twin_t_attenuation_db, 50.0, 60.0);
 }
 
 void register_resistors() {
@@ -122,6 +153,16 @@ void register_resistors() {
   call("resistors/handbook_t_pad", handbook_t_pad, 75.0, 50.0, 10.0);
   call("resistors/handbook_pi_pad", handbook_pi_pad, 75.0, 50.0, 10.0);
   call("resistors/handbook_bridged_t_pad", handbook_bridged_t_pad, 50.0, 10.0);
+  call("resistors/attenuator_cell", attenuator_cell, Cell::t, 50.0, 6.0);
+  call("resistors/dissipated_share", dissipated_share, 6.0);
+  call("resistors/least_loss_db", least_loss_db, 600.0, 300.0);
+  call("resistors/h_pad", h_pad, 600.0, 300.0, 15.0);
+  call("resistors/o_pad", o_pad, 600.0, 300.0, 15.0);
+  call("resistors/loaded_divider", loaded_divider, 12.0, 1000.0, 2200.0, 10000.0);
+  call("resistors/design_divider", design_divider, 13.8, 5.0, 0.02, 0.005);
+  call("resistors/power_rating", power_rating, 470.0, 0.25);
+  call("resistors/voltmeter_probe", voltmeter_probe, 1e7, 10.0, 3000.0);
+  call("resistors/meter_resistance_ohm", meter_resistance_ohm, 47000.0, 1000.0, 1e-4, 5e-5);
   call("resistors/zener_standing_ma", zener_standing_ma, ZenerClass::one_watt);
   call("resistors/zener_series_resistor", zener_series_resistor, 12.0, 5.1, 20.0, 10);
   call("resistors/led_forward_v", led_forward_v, LedColour::green);
@@ -153,6 +194,8 @@ void register_coils() {
 void register_materials() {
   using namespace materials;
   call("materials/copper_wire", copper_wire, 0.5, 100.0);
+  call("materials/round_wire_impedance_ratio", round_wire_impedance_ratio, 10.0);
+  call("materials/wires_in_strand", wires_in_strand, 37);
 }
 
 void register_antennas() {

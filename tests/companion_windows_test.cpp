@@ -9,11 +9,21 @@ using CompanionWindows = WindowTest;
 // The design's twips over 15.
 TEST_F(CompanionWindows, StandAtTheirPlacesAlsoWhenTheyAreOpenAlready) {
   const std::tuple<const char*, const char*, QPoint, const char*, QPoint> table[] = {
+      {"mnuvalinduttanza", "cmdchiamabobine", {12, 12}, "frmbobine", {273, 187}},
+      {"mnuvalinduttanza", "cmdchiamatoroidi", {12, 12}, "frmamidon", {273, 187}},
+      {"mnulcparallelo", "cmdchiamabobine", {12, 12}, "frmbobine", {273, 187}},
+      {"mnuLCserieparall", "cmdchiamabobine", {12, 12}, "frmbobine", {273, 187}},
+      {"mnuLL", "cmdchiamabobine", {27, 20}, "frmbobine", {273, 187}},
+      {"mnuRL", "cmdchiamabobine", {27, 20}, "frmbobine", {273, 187}},
+      {"mnuRLC", "cmdchiamabobine", {27, 20}, "frmbobine", {273, 187}},
       {"mnuverticale", "cmdchiamabobine", {12, 12}, "frmbobine", {273, 187}},
       {"mnureattanza", "cmdchiamabobine", {12, 12}, "frmbobine", {273, 187}},
       {"mnurisonanza", "cmdchiamabobine", {12, 12}, "frmbobine", {273, 187}},
       {"mnufiltripassaalto", "cmdbobine", {12, 12}, "frmbobine", {273, 187}},
+      {"mnufiltronotchaf", "cmdchiamabobine", {12, 17}, "frmbobine", {533, 417}},
+      {"mnufiltronotchbf", "cmdchiamabobine", {12, 17}, "frmbobine", {533, 417}},
       {"mnubobine", "cmdchiamaawg", {12, 12}, "frmawg", {273, 200}},
+      {"mnumisureInglesi", "cmdaltreconversioni", {12, 12}, "frmaltreconversioni", {273, 187}},
       {"mnuyagi3", "cmdgamma", {23, 23}, "frmgammamatch", {533, 533}},
       {"mnuyagi5", "cmdgamma", {13, 13}, "frmgammamatch", {533, 533}},
   };

@@ -18,11 +18,6 @@ Complex checked(std::complex<double> z) {
   return {z.real(), z.imag()};
 }
 
-template <class Impedance>
-Impedance side_by_side(Impedance a, Impedance b) {
-  return a == Impedance{} && b == Impedance{} ? Impedance{} : a * b / (a + b);
-}
-
 }  // namespace
 
 Complex operator/(Complex a, Complex b) {
@@ -59,8 +54,11 @@ Complex tanh(Complex z) {
   return {beta * cosh(x) * sine / denominator, tangent / denominator};
 }
 
-Real parallel(Real a, Real b) { return side_by_side(a, b); }
+Real parallel(Real a, Real b) { return a == 0 && b == 0 ? 0 : a * b / (a + b); }
 
-Complex parallel(Complex a, Complex b) { return side_by_side(a, b); }
+// The product would take digits from the smaller part of the result; admittances do not.
+Complex parallel(Complex a, Complex b) {
+  return a == Complex{} || b == Complex{} ? Complex{} : 1 / (1 / a + 1 / b);
+}
 
 }  // namespace eterlab

@@ -66,14 +66,16 @@ void take_exponent(Scanned& number, const char* text_end) {
 
 }  // namespace
 
-Real leading_number(std::string_view text) {
+Real leading_number(std::string_view text) { return leading_number_if_any(text).value_or(0); }
+
+std::optional<Real> leading_number_if_any(std::string_view text) {
   std::string characters{text};
   std::erase_if(characters, is_ignored);
   const bool negative = characters[0] == '-';
   char* const begin = characters.data() + (is_sign(characters[0]) ? 1 : 0);
   Scanned number = take_digits(begin);
   if (!number.has_digits) {
-    return 0;
+    return std::nullopt;
   }
   take_exponent(number, characters.data() + characters.size());
 
@@ -82,7 +84,7 @@ Real leading_number(std::string_view text) {
     if (number.magnitude > 0) {
       throw ArithmeticFault{ArithmeticFault::Kind::overflow};
     }
-    return 0;  // too small for a double
+    return Real{0};  // too small for a double
   }
   return Real{negative ? -value : value};
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include "common/arithmetic.h"
@@ -14,5 +15,8 @@ namespace eterlab {
 /// comma as any other. A text that begins with no number reads as 0. Throws overflow for a
 /// magnitude beyond the range of a double; one too small for it reads as 0.
 Real leading_number(std::string_view text);
+
+/// The same, but nothing for a text that begins with no number.
+std::optional<Real> leading_number_if_any(std::string_view text);
 
 }  // namespace eterlab

@@ -60,6 +60,11 @@ void Calculator::lay_out(const Item& contents, std::initializer_list<Button*> ot
 
 void Calculator::name_hint(std::string_view name) { hint_->setObjectName(to_qt(name)); }
 
+void Calculator::name_exit(std::string_view name, std::string_view caption) {
+  cmdesci_.setObjectName(to_qt(name));
+  cmdesci_.set_caption(caption);
+}
+
 void Calculator::change() {
   blank_results();
   if (!is_live_) {
@@ -119,7 +124,7 @@ void Calculator::check_ranges() const {
 }
 
 void Calculator::check_presence(Input& input) const {
-  require(!input.is_required() || input.value() > 0, input, "MANCANO DATI");
+  require(input.is_told(), input, "MANCANO DATI");
 }
 
 void Calculator::check_range(Input& input) const {

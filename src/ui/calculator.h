@@ -60,6 +60,8 @@ class Calculator : public Window {
   void clear_inputs() const;
   /// Where a chapter names the hint otherwise than Labelpunto; before the layout.
   void name_hint(std::string_view name);
+  /// Where the button that closes the window is another than cmdesci "E S C I".
+  void name_exit(std::string_view name, std::string_view caption);
   /// Of every message that is not given one.
   void set_message_title(std::string_view title) { message_title_ = title; }
 

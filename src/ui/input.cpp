@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "common/leading_number.h"
 #include "common/number_text.h"
 #include "ui/text.h"
 
@@ -46,9 +47,14 @@ bool Input::is_in_range() const {
   return value() >= limits.lowest && value() <= limits.highest;
 }
 
+bool Input::is_told() const {
+  const bool may_be_any = range().lowest < 0;
+  return is_optional_ || value() > 0 ||
+         (may_be_any && (value() < 0 || leading_number_if_any(content())));
+}
+
 std::optional<Real> Input::usable() const {
-  const bool is_told = is_optional_ || value() > 0;
-  return is_told && is_in_range() ? std::optional{value()} : std::nullopt;
+  return is_told() && is_in_range() ? std::optional{value()} : std::nullopt;
 }
 
 void Input::ask(std::string_view prompt) {

@@ -29,7 +29,8 @@ class Input final : public TextBox {
     std::optional<Range> range = {};
     /// The tooltip begins with the range: "da 0.01 a 1000".
     bool tells_range = false;
-    /// A required number must be above zero. An optional box counts as 0 when it is empty.
+    /// A required number must be above zero or, where its range goes below, just be there. An
+    /// optional box counts as 0 when it is empty.
     bool is_optional = false;
     /// What an optional box says to a number below zero, where that is not just out of its range.
     std::string_view negative = {};
@@ -48,7 +49,8 @@ class Input final : public TextBox {
   [[nodiscard]] Real value() const;
   [[nodiscard]] Range range() const;
   [[nodiscard]] bool is_in_range() const;
-  [[nodiscard]] bool is_required() const { return !is_optional_; }
+  /// Whether it holds what is required.
+  [[nodiscard]] bool is_told() const;
   [[nodiscard]] const std::string& negative() const { return negative_; }
   /// For windows that compute as the user types: the number where it can be computed with.
   [[nodiscard]] std::optional<Real> usable() const;

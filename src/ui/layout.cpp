@@ -182,12 +182,16 @@ Item table(const std::vector<Label*>& column_heads, const std::vector<TableRow>&
   return Item{grid};
 }
 
-void set_tab_order(const QWidget& window) {
-  QWidgetList controls;
+void set_tab_order(QWidget& window) {
+  QWidgetList controls{&window};
   collect(*window.layout(), controls);
+  // The toolkit passes over what takes no focus; the window is where the order begins.
+  const Qt::FocusPolicy policy = window.focusPolicy();
+  window.setFocusPolicy(Qt::TabFocus);
   for (qsizetype i = 1; i < controls.size(); ++i) {
     QWidget::setTabOrder(controls[i - 1], controls[i]);
   }
+  window.setFocusPolicy(policy);
 }
 
 }  // namespace eterlab::ui

@@ -110,6 +110,6 @@ struct TableRow {
 Item table(const std::vector<Label*>& column_heads, const std::vector<TableRow>& rows);
 
 /// Makes the reading order of a laid-out window its tab order.
-void set_tab_order(const QWidget& window);
+void set_tab_order(QWidget& window);
 
 }  // namespace eterlab::ui

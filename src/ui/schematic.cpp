@@ -149,6 +149,11 @@ Schematic& Schematic::arc(At centre, double radius, double from_degrees, double 
   return *this;
 }
 
+Schematic& Schematic::curve(const std::vector<At>& places) {
+  shapes_.add(Look::line, Fit::exact, polyline(places));
+  return *this;
+}
+
 Schematic& Schematic::box(At top_left, At bottom_right) {
   const QRectF room{point(top_left), point(bottom_right)};
   QPainterPath path;

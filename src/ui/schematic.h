@@ -39,6 +39,8 @@ class Schematic final : public QWidget {
   Schematic& circle(At centre, double radius);
   /// Counterclockwise between two angles in degrees, 0 to the right.
   Schematic& arc(At centre, double radius, double from_degrees, double to_degrees);
+  /// Through places so near to each other that the lines between them look smooth.
+  Schematic& curve(const std::vector<At>& places);
   Schematic& box(At top_left, At bottom_right);
 
   // Metal in a section: outlined, in a light tint

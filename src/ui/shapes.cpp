@@ -16,10 +16,11 @@ namespace {
 // Widths of lines, in grid steps.
 constexpr double line_width = 0.19;
 constexpr double rod_width = 0.5;
+constexpr double hair_width = 0.1;
 constexpr double thin_line_share = 0.63;  // of the width of the other lines
 constexpr double tint_share = 0.2;        // of ink in the colour of the window
 
-enum class Width : std::uint8_t { none, thin, line, rod };
+enum class Width : std::uint8_t { none, hair, thin, line, rod };
 enum class Fill : std::uint8_t { none, ink, tint, window };
 
 struct Style {
@@ -34,7 +35,7 @@ struct Style {
 const std::vector<Style>& styles() {
   static const std::vector<Style> all{
       {Width::none, Width::line, Fill::tint},
-      {Width::thin, Width::thin},
+      {Width::hair, Width::hair},
       {Width::thin, Width::thin},
       {Width::thin, Width::line},
       {Width::thin, Width::thin, Fill::none, Qt::SquareCap, {3, 3}},
@@ -107,6 +108,8 @@ void Shapes::paint(QPainter& painter, const QPalette& palette) const {
   const double line = pixels.width(line_width * scale);
   const auto in_pixels = [&](Width width) {
     switch (width) {
+      case Width::hair:
+        return pixels.nearest(hair_width * scale);
       case Width::thin:
         return pixels.nearest(line * thin_line_share);
       case Width::line:

@@ -35,7 +35,7 @@ class Shapes {
   /// How a shape is painted; later ones are laid over earlier ones.
   enum class Look : std::uint8_t {
     tint,        ///< filled, in a light tint of the ink: metal in a section
-    faint_line,  ///< a thin line in the tint: the grid of a plot
+    faint_line,  ///< a hair in the tint: the grid of a plot
     thin_line,
     thin_curve,  ///< between curves among the lines
     dashed_line,

@@ -31,6 +31,9 @@ class TextBox : public PointLineEdit {
   /// The number that the text begins with, see leading_number.
   [[nodiscard]] Real number() const;
 
+  /// A box that the window writes, to be read and copied; it looks so.
+  void set_read_only(bool is_read_only) { setReadOnly(is_read_only); }
+
   /// Every change of the text: by key, by paste, by assignment.
   void on_change(Handler handler);
 };

@@ -57,6 +57,11 @@ class Style final : public QProxyStyle {
     if (element == PE_IndicatorRadioButton && button != nullptr) {
       const QStyleOptionButton visible = with_visible_outline(*button);
       QProxyStyle::drawPrimitive(element, &visible, painter, widget);
+    } else if (element == PE_PanelLineEdit && frame != nullptr &&
+               frame->state.testFlag(State_ReadOnly)) {
+      QStyleOptionFrame flat{*frame};  // as the window: nothing to type here
+      flat.palette.setBrush(QPalette::Base, frame->palette.window());
+      QProxyStyle::drawPrimitive(element, &flat, painter, widget);
     } else if (element == PE_FrameLineEdit && frame != nullptr) {
       const QStyleOptionFrame visible = with_visible_outline(*frame);
       QProxyStyle::drawPrimitive(element, &visible, painter, widget);

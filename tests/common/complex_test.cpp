@@ -117,6 +117,9 @@ TEST(Parallel, IsTheProductOverTheSum) {
   EXPECT_EQ(parallel(Complex(10, 10), Complex(10, -10)), Complex{10});
   EXPECT_EQ(parallel(100 * j, Real{100}), Complex(50, 50));
   EXPECT_EQ(parallel(Complex{}, Complex{}), Complex{});
+  // R X^2 / |Z|^2: of the product over the sum half the digits would be lost.
+  EXPECT_DOUBLE_EQ(parallel(Complex(1e8, 1e8), -1.0 * j).real().value(),
+                   1e8 / (1e16 + 99'999'999.0 * 99'999'999.0));
   EXPECT_EQ(kind_of_fault([] { return parallel(50, -50); }), Kind::division_by_zero);
   EXPECT_EQ(kind_of_fault([] { return parallel(50 * j, -50 * j); }), Kind::division_by_zero);
 }

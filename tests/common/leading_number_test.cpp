@@ -21,7 +21,12 @@ TEST(LeadingNumber, ReadsWhatATextBeginsWith) {
   expect_number(100, {"1E+2", "1D2", "1 e 2", "1e2.5"});
   expect_number(0.1, {".1", "0.1", "1d-1"});
   expect_number(0, {"1e-400", "1e-99999999999999999999", "0e99999999999999999999"});
-  expect_number(0, {"", " ", "abc", ",5", "-", "+", ".", "-.", ".e5", "e5", "--1", "\u00a05"});
+  for (const char* text :
+       {"", " ", "abc", ",5", "-", "+", ".", "-.", ".e5", "e5", "--1", "\u00a05"}) {
+    EXPECT_EQ(leading_number(text), 0) << text;
+    EXPECT_FALSE(leading_number_if_any(text)) << text;
+  }
+  EXPECT_TRUE(leading_number_if_any("-0"));
 }
 
 TEST(LeadingNumber, JudgesTheRangeByTheWholeNumber) {

@@ -89,7 +89,7 @@ class Surroundings : public WindowTest {
     EXPECT_LT(time_for(to, key, modifiers), patience_);
   }
 
-  const std::clock_t patience_ = 10 * time_of_the_toolkit();
+  const std::clock_t patience_ = 20 * time_of_the_toolkit();
 };
 
 TEST_F(Surroundings, AMegabyteInABoxOfEveryWindow) {

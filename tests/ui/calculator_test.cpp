@@ -50,15 +50,21 @@ class Asking final : public ui::Calculator {
 class Live final : public ui::Calculator {
   ui::Input txtbase{this, "txtbase", "BASE"};
   ui::Input txtmore{this, "txtmore", "MORE", {.is_optional = true}};
+  ui::Input txtsigned{this, "txtsigned", "SIGNED", {.range = ui::Range{-10, 10}}};
   ui::Result lblinverse{this, "lblinverse"};
+  ui::Result lblsigned{this, "lblsigned"};
 
  public:
   Live() : Calculator{"live", "LIVE", Computes::as_typed} {
-    lay_out(ui::column(ui::form(txtbase, txtmore), lblinverse));
+    name_exit("cmdchiudi", "CHIUDI");
+    lay_out(ui::column(ui::form(txtbase, txtmore, txtsigned), lblinverse, lblsigned));
   }
 
  private:
   void compute() override {
+    if (const auto number = txtsigned.usable(); number) {
+      lblsigned = plain(*number);
+    }
     if (const auto base = txtbase.usable(); base) {
       lblinverse = plain(1 / (*base - 2 + txtmore.usable().value_or(0)));
     }
@@ -121,7 +127,8 @@ TEST_F(Calculators, MarkARowToTheEyeAndToTheEar) {
   const QWidget& marked = window.control("lblpart_1");
   EXPECT_TRUE(marked.font().bold());
   EXPECT_EQ(marked.accessibleDescription(), "PART, riga evidenziata");
-  enter("FIRST|1|2|3");
+  EXPECT_EQ(window.control("lblpart_0").accessibleDescription(), "one PART");
+  window.type("txtfirst", "2");
   EXPECT_FALSE(marked.font().bold());
   EXPECT_EQ(marked.accessibleDescription(), "PART");
 }
@@ -134,6 +141,17 @@ TEST_F(Calculators, AsTypedComputeWhatTheyCanAndSayNothing) {
     expect(typed, result);
   }
   EXPECT_FALSE(has_ended());
+}
+
+TEST_F(Calculators, WhereNumbersMayBeNegativeZeroIsANumberAndNothingIsNone) {
+  use_window("live", "txtsigned", "lblsigned");
+  const char* const table[][2] = {{"-7", "-7"}, {"0", "0"},      {"", ""},       {"-", ""},
+                                  {"-11", ""},  {"-.5", "-0,5"}, {"-1e999", ""}, {"1e999", ""}};
+  for (const auto& [typed, result] : table) {
+    expect(typed, result);
+  }
+  window.click("cmdchiudi");
+  EXPECT_FALSE(is_open("live"));
 }
 
 }  // namespace
