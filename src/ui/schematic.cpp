@@ -109,8 +109,13 @@ Schematic& Schematic::dimension(At from, At to) {
   return *this;
 }
 
-Schematic& Schematic::arrow(At from, At to) {
+Schematic& Schematic::extension(At from, At to) {
   line(Look::thin_line, {from, to});
+  return *this;
+}
+
+Schematic& Schematic::arrow(At from, At to) {
+  extension(from, to);
   arrow_head(from, to);
   return *this;
 }
@@ -183,6 +188,16 @@ Schematic& Schematic::shaded_ring(At centre, double inner_radius, double outer_r
   area.addPath(ring(inner_radius));  // a hole, by the odd-even rule
   shapes_.add(Look::tint, Fit::exact, area, point(centre));
   return circle(centre, inner_radius).circle(centre, outer_radius);
+}
+
+Schematic& Schematic::shaded_frame(At top_left, At bottom_right, double thickness) {
+  const QRectF room{point(top_left), point(bottom_right)};
+  const QRectF outside = room.adjusted(-thickness, -thickness, thickness, thickness);
+  QPainterPath wall;
+  wall.addRect(outside);
+  wall.addRect(room);  // a hole, by the odd-even rule
+  shapes_.add(Look::tint, Fit::grid, wall);
+  return box(at(outside.topLeft()), at(outside.bottomRight())).box(top_left, bottom_right);
 }
 
 Schematic& Schematic::part(At from, At to, const Symbol& symbol) {
