@@ -79,15 +79,20 @@ Interval drawable(Interval range, Scale scale) {
     if (!(range.to > 0)) {
       return {1, 10};
     }
-    const bool is_wide = range.from > 0 && range.from < range.to * (1 - narrowest);
+    range.from = std::max(range.from, 1 / largest);
+    range.to = std::max(range.to, 1 / largest);
+    const bool is_wide = range.from < range.to * (1 - narrowest);
     return is_wide ? range : Interval{range.to / 10, range.to * 10};
   }
+  constexpr double smallest = 1e-290;
   const double magnitude = std::max(std::abs(range.from), std::abs(range.to));
-  if (range.to - range.from > magnitude * narrowest) {
-    return range;
+  if (magnitude < smallest) {
+    return {-1, 1};
   }
   // One value alone stands in the middle.
-  return magnitude == 0 ? Interval{-1, 1} : Interval{range.to - magnitude, range.to + magnitude};
+  return range.to - range.from > magnitude * narrowest
+             ? range
+             : Interval{range.to - magnitude, range.to + magnitude};
 }
 
 }  // namespace
@@ -98,16 +103,19 @@ void Interval::include(double value) {
 }
 
 double share_of(double value, Interval range, Scale scale) {
+  // In halves and by differences of logarithms: no range is too wide for that.
   if (scale == Scale::linear) {
-    return (value - range.from) / (range.to - range.from);
+    return (value / 2 - range.from / 2) / (range.to / 2 - range.from / 2);
   }
-  return value > 0 ? std::log(value / range.from) / std::log(range.to / range.from)
+  return value > 0 ? (std::log(value) - std::log(range.from)) /
+                         (std::log(range.to) - std::log(range.from))
                    : std::numeric_limits<double>::quiet_NaN();
 }
 
 double value_at(double share, Interval range, Scale scale) {
-  return scale == Scale::linear ? range.from + (range.to - range.from) * share
-                                : range.from * std::pow(range.to / range.from, share);
+  const auto between = [share](double from, double to) { return from * (1 - share) + to * share; };
+  return scale == Scale::linear ? between(range.from, range.to)
+                                : std::exp(between(std::log(range.from), std::log(range.to)));
 }
 
 Ruler::Ruler(Axis axis, Interval range)
@@ -134,8 +142,9 @@ std::vector<Tick> Ruler::even_ticks(int texts) const {
   const double first = std::ceil(range_.from / step.value() - rounding_error);
   const double last = std::floor(range_.to / step.value() + rounding_error);
   std::vector<Tick> ticks;
-  for (double count = first; count <= last; ++count) {
-    ticks.push_back({step.times(count), tick_text(step.times(count))});
+  for (int i = 0; i <= static_cast<int>(last - first); ++i) {
+    const double value = step.times(first + i);
+    ticks.push_back({value, tick_text(value)});
   }
   return ticks;
 }
@@ -178,8 +187,7 @@ std::string Ruler::title() const {
   return axis_.title.empty() || unit.empty() ? axis_.title + unit : axis_.title + " in " + unit;
 }
 
-std::string Ruler::told(double value) const {
-  constexpr int digits = 4;
+std::string Ruler::told(double value, int digits) const {
   if (takes_prefix(axis_.unit)) {
     return eng(value, axis_.unit, digits);
   }

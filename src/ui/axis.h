@@ -57,8 +57,8 @@ class Ruler {
   [[nodiscard]] std::vector<Tick> ticks(int texts) const;
   /// "FREQUENZA in MHz"
   [[nodiscard]] std::string title() const;
-  /// A value with its unit, to four digits: "14,25 MHz".
-  [[nodiscard]] std::string told(double value) const;
+  /// A value with its unit: "14,25 MHz".
+  [[nodiscard]] std::string told(double value, int digits = 4) const;
 
  private:
   [[nodiscard]] std::string tick_text(double value) const;

@@ -19,6 +19,8 @@ double value_of(const Curve::Function& function, double x) {
   }
 }
 
+bool is_before(const Curve::Sample& sample, double x) { return sample.x < x; }
+
 }  // namespace
 
 Curve::Curve(const Function& function, Interval domain, const Axis& x_axis, const Axis& y_axis,
@@ -35,66 +37,56 @@ Curve::Curve(const Function& function, Interval domain, const Axis& x_axis, cons
     const double x = i == count ? domain.to : value_at(1.0 * i / count, domain, x_scale_);
     samples_.push_back({x, value_of(function, x)});
   }
-  shown_ = fixed_.value_or(values().value_or(Interval{}));
-  const std::vector<Sample> even = std::exchange(samples_, {});
-  for (const Sample& sample : even) {
-    if (!samples_.empty()) {
-      refine(function, samples_.back(), sample, halvings);
-    }
-    samples_.push_back(sample);
-  }
+  refine(function, halvings);
 }
 
 void Curve::refine_at(const Function& function, double x) {
   constexpr int halvings = 12;
-  const auto after = std::upper_bound(samples_.begin(), samples_.end(), x,
-                                      [](double place, const Sample& s) { return place < s.x; });
+  const auto after = std::lower_bound(samples_.begin(), samples_.end(), x, is_before);
   if (after == samples_.begin() || after == samples_.end()) {
     return;
   }
-  const Sample from = *(after - 1);
-  const Sample to = *after;
-  const Sample middle = from.x == x ? from : Sample{x, value_of(function, x)};
-  const std::vector<Sample> rest{after, samples_.end()};
-  samples_.erase(after, samples_.end());
-  if (from.x != x) {
-    samples_.push_back(middle);
-    shown_ = fixed_.value_or(values().value_or(Interval{}));
-    samples_.pop_back();
-    refine(function, from, middle, halvings);
-    samples_.push_back(middle);
+  if (after->x != x) {
+    samples_.insert(after, {x, value_of(function, x)});
   }
-  refine(function, middle, to, halvings);
-  samples_.insert(samples_.end(), rest.begin(), rest.end());
+  refine(function, halvings);
 }
 
-bool Curve::is_fine(const Sample& from, const Sample& to) const {
+void Curve::refine(const Function& function, int halvings) {
+  constexpr std::size_t most = 20000;  // of a function that is nothing but steep
+  for (; halvings > 0 && samples_.size() < most; --halvings) {
+    const Interval shown = fixed_.value_or(values().value_or(Interval{}));
+    std::vector<bool> is_steep_until(samples_.size() + 1);
+    for (std::size_t i = 1; i < samples_.size(); ++i) {
+      is_steep_until[i] = is_steep(samples_[i - 1], samples_[i], shown);
+    }
+    // Also what is beside a steep stretch: a peak may stand between two samples of one height.
+    std::vector<Sample> finer{samples_.front()};
+    for (std::size_t i = 1; i < samples_.size(); ++i) {
+      const Interval between{samples_[i - 1].x, samples_[i].x};
+      const double x = value_at(0.5, between, x_scale_);
+      if ((is_steep_until[i - 1] || is_steep_until[i] || is_steep_until[i + 1]) &&
+          x > between.from && x < between.to) {
+        finer.push_back({x, value_of(function, x)});
+      }
+      finer.push_back(samples_[i]);
+    }
+    samples_ = std::move(finer);
+  }
+}
+
+bool Curve::is_steep(const Sample& from, const Sample& to, Interval shown) const {
   if (std::isnan(from.y) || std::isnan(to.y)) {
-    return std::isnan(from.y) && std::isnan(to.y);
+    return std::isnan(from.y) != std::isnan(to.y);
   }
-  const double start = share_of(from.y, shown_, y_scale_);
-  const double end = share_of(to.y, shown_, y_scale_);
+  const double start = share_of(from.y, shown, y_scale_);
+  const double end = share_of(to.y, shown, y_scale_);
   const bool is_beyond = std::max(start, end) < 0 || std::min(start, end) > 1;
-  return is_beyond || !(std::abs(end - start) > steepest_);
-}
-
-void Curve::refine(const Function& function, Sample from, Sample to, int halvings) {
-  if (halvings == 0 || is_fine(from, to)) {
-    return;
-  }
-  const double x = value_at(0.5, {from.x, to.x}, x_scale_);
-  if (!(x > from.x && x < to.x)) {
-    return;
-  }
-  const Sample middle{x, value_of(function, x)};
-  refine(function, from, middle, halvings - 1);
-  samples_.push_back(middle);
-  refine(function, middle, to, halvings - 1);
+  return !is_beyond && std::abs(end - start) > steepest_;
 }
 
 std::optional<double> Curve::at(double x) const {
-  const auto after = std::lower_bound(samples_.begin(), samples_.end(), x,
-                                      [](const Sample& s, double place) { return s.x < place; });
+  const auto after = std::lower_bound(samples_.begin(), samples_.end(), x, is_before);
   if (after == samples_.end()) {
     return std::nullopt;
   }

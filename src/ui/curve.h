@@ -43,15 +43,15 @@ class Curve {
   [[nodiscard]] std::optional<Interval> values() const;
 
  private:
-  void refine(const Function& function, Sample from, Sample to, int halvings);
-  [[nodiscard]] bool is_fine(const Sample& from, const Sample& to) const;
+  /// Halves the distances of samples where it is steep, and there again.
+  void refine(const Function& function, int halvings);
+  [[nodiscard]] bool is_steep(const Sample& from, const Sample& to, Interval shown) const;
 
   std::string name_;
   Scale x_scale_;
   Scale y_scale_;
   double steepest_;  ///< share of the vertical axis between two samples
   std::optional<Interval> fixed_;
-  Interval shown_;  ///< the fixed range, or that of the samples
   std::vector<Sample> samples_;
 };
 

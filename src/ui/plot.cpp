@@ -496,9 +496,10 @@ void Plot::point_at(const std::optional<Pointed>& place) {
     readout_ = "";
     return;
   }
+  constexpr int digits_of_place = 6;  // few of them are used: it is a round value
   const std::string& name = curves_[place->curve].name();
-  readout_ = (name.empty() ? "" : name + ": ") + picture().x.told(place->x) + " ; " +
-             picture().y.told(place->y);
+  readout_ = (name.empty() ? "" : name + ": ") + picture().x.told(place->x, digits_of_place) +
+             " ; " + picture().y.told(place->y);
   readout_.adjustSize();
   // Beside the cross, on the side where there is more room.
   const QRectF& frame = picture().frame;

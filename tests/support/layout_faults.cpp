@@ -3,10 +3,12 @@
 #include <QBitmap>
 #include <QLabel>
 #include <QMenu>
+#include <QPainter>
 #include <QPixmap>
 #include <QRegion>
 
 #include "support/window_test.h"
+#include "ui/plot.h"
 #include "ui/schematic.h"
 
 namespace eterlab::test {
@@ -45,15 +47,51 @@ QRegion ink(QWidget& control) {
   return control.geometry();
 }
 
-void add_drawing_faults(ui::Schematic& schematic, std::vector<std::string>& faults) {
-  const QRegion lines = drawn(schematic);
-  for (QLabel* label : schematic.findChildren<QLabel*>()) {
-    // The letters themselves stand well inside.
-    const QRect letters = ink(*label).boundingRect().adjusted(2, 3, -2, -3);
-    if (label->isVisible() && lines.intersects(letters)) {
-      faults.push_back(name_of(*label) + " stands on a line of " + name_of(schematic));
+/// Where the letters themselves stand: well inside the room of their text.
+QRect core(const QRect& room) { return room.adjusted(2, 3, -2, -3); }
+
+/// What fixed letters and labels on a drawing or plot do to each other and to its lines.
+void add_faults_of_letters(const QWidget& drawing, const QRegion& lines,
+                           const std::vector<ui::Letters>& fixed,
+                           std::vector<std::string>& faults) {
+  struct Text {
+    std::string name;
+    QRect room;
+  };
+  std::vector<Text> texts;
+  for (const ui::Letters& letters : fixed) {
+    texts.push_back({'"' + letters.text.toStdString() + '"', letters.room.toAlignedRect()});
+    if (!drawing.rect().adjusted(-1, -1, 1, 1).contains(texts.back().room)) {
+      faults.push_back(texts.back().name + " is cut off by " + name_of(drawing));
     }
   }
+  const std::size_t fixed_count = texts.size();
+  for (QLabel* label : drawing.findChildren<QLabel*>()) {
+    if (label->isVisible() && !label->text().isEmpty()) {
+      texts.push_back({name_of(*label), label->geometry()});
+    }
+  }
+  for (const Text& text : texts) {
+    if (lines.intersects(core(text.room))) {
+      faults.push_back(text.name + " stands on a line of " + name_of(drawing));
+    }
+  }
+  // Labels over labels are found among all controls.
+  for (std::size_t i = 0; i < fixed_count; ++i) {
+    for (std::size_t k = i + 1; k < texts.size(); ++k) {
+      if (core(texts[i].room).intersects(core(texts[k].room))) {
+        faults.push_back(texts[k].name + " stands on " + texts[i].name + " of " + name_of(drawing));
+      }
+    }
+  }
+}
+
+QRegion lines_of(const ui::Schematic& schematic) {
+  QPixmap picture{schematic.size()};
+  picture.fill(Qt::transparent);
+  QPainter painter{&picture};
+  schematic.shapes().paint(painter, schematic.palette());
+  return picture.mask();
 }
 
 }  // namespace
@@ -93,7 +131,10 @@ std::vector<std::string> layout_faults(const QWidget& window) {
       }
     }
     if (auto* schematic = dynamic_cast<ui::Schematic*>(control); schematic != nullptr) {
-      add_drawing_faults(*schematic, faults);
+      add_faults_of_letters(*schematic, lines_of(*schematic), schematic->letters(), faults);
+    }
+    if (const auto* plot = dynamic_cast<ui::Plot*>(control); plot != nullptr) {
+      add_faults_of_letters(*plot, {}, plot->letters(), faults);
     }
   }
   return faults;

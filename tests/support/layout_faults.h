@@ -23,7 +23,8 @@ std::vector<Control*> visible(const QWidget& window) {
 }
 
 /// What a user with tired eyes would complain of: texts cut off, controls over each other or beyond
-/// the edge, letters over the lines of a drawing, a window larger than the screen. One line each.
+/// the edge, letters of a drawing or plot over its lines, over each other or beyond its edge, a
+/// window larger than the screen. One line each.
 std::vector<std::string> layout_faults(const QWidget& window);
 
 }  // namespace eterlab::test

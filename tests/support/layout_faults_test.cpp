@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "support/window_test.h"
+#include "ui/plot.h"
 #include "ui/schematic.h"
 #include "ui/ui.h"
 
@@ -18,10 +19,11 @@ class Spoilt final : public ui::Window {
   ui::TextBox txtl{this, "txtl"};
   ui::Schematic sketch{this, "sketch", 20, 6};
   ui::Label lbll{sketch, "lbll", "120 mm"};
+  ui::Plot plot{this, "plot", {"FREQUENZA", "MHz"}, {"ROS"}};
 
   Spoilt() : Window{"spoilt", "GUASTA"} {
     sketch.wire({{1, 3}, {19, 3}}).label(lbll, {10, 3}, ui::Schematic::Side::above);
-    arrange(ui::column(ui::form(field(Label1, txtl)), sketch));
+    arrange(ui::column(ui::form(field(Label1, txtl)), sketch, plot));
   }
 };
 
@@ -37,6 +39,19 @@ TEST_F(LayoutFaults, AreFoundOneByOne) {
          w.sketch.label(w.lbll, {10, 3});
        },
        "lbll stands on a line of sketch"},
+      {[](Spoilt& w) {
+         w.sketch.mark({4, 3}, "R1");
+       },
+       "\"R1\" stands on a line of sketch"},
+      {[](Spoilt& w) {
+         w.sketch.mark({10, 1.6}, "R1");
+       },
+       "lbll stands on \"R1\" of sketch"},
+      {[](Spoilt& w) {
+         w.sketch.mark({19.5, 1.5}, "R1");
+       },
+       "\"R1\" is cut off by sketch"},
+      {[](Spoilt& w) { w.plot.axes({std::string(60, 'x')}, {}); }, "x\" is cut off by plot"},
       // The top of the drawing is empty, the middle is not.
       {[](Spoilt& w) {
          w.Label1.move(w.sketch.pos() - QPoint{0, w.Label1.height() / 2});

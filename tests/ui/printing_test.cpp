@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 
 #include "support/window_test.h"
+#include "ui/plot.h"
 #include "ui/theme.h"
 
 namespace eterlab::test {
@@ -48,6 +49,16 @@ TEST_F(Printing, OnePageWithTheLettersAsLetters) {
     const QByteArray pixels = pdf.mid(at + width.size()).split('\n').first();
     EXPECT_LT(pixels.toInt(), window.window().width() / 2);
   }
+}
+
+TEST_F(Printing, APlotIsLinesAndLetters) {
+  ui::Window window_of_plot{"banco", "BANCO"};
+  ui::Plot plot{&window_of_plot, "plot", {"x"}, {"y"}};
+  plot.curve([](Real x) { return x; }, 0, 1, "retta").marker(0.5, "centro");
+  print_to(file);
+  ui::print_window(window_of_plot);
+  EXPECT_EQ(printed().count("/Subtype /Image"), 0);
+  EXPECT_GT(printed().count("/Type /Font\n"), 0);
 }
 
 TEST_F(Printing, OfADarkDesktopIsInTheColoursOfPaper) {
