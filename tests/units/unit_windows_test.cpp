@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QScreen>
 
+#include "common/regional_settings.h"
 #include "support/form_test.h"
 
 namespace eterlab::test {
@@ -131,6 +132,93 @@ TEST_F(LocatorWindows, StandInTheMiddleOfTheScreenAndComeForwardTogether) {
   choose("mnucoordinate");
   EXPECT_TRUE(is_open("frmwwl"));
   EXPECT_TRUE(driven("frmcoordinate").window().isActiveWindow());
+}
+
+using frmfrequenzametri = FormTest;
+
+TEST_F(frmfrequenzametri, EachFromEachOther) {
+  use("mnufrequenzametri", "Option1 txtinput",
+      "lblinput lblmetri lblfrequenza lblpulsazione lblperiodo");
+  const auto wave = [](const std::string& prompt, const std::string& metres, const std::string& khz,
+                       const std::string& pulsation, const std::string& ms) {
+    return prompt + "|METRI : " + metres + "|FREQUENZA IN KHz : " + khz +
+           "|PULSAZIONE/SECONDO : " + pulsation + "|PERIODO/millisecondi : " + ms;
+  };
+  EXPECT_EQ(window.text("lblinput"), "METRI :");
+  expect("1|7100", wave("FREQUENZA IN KHz :", "42,2243", "7100", "44610600", "0,000140845"));
+  expect("0|20", wave("METRI :", "20", "14989,6", "94182600", "6,67128E-05"));
+  expect("3|20", wave("PERIODO/millisecondi:", "5995850", "0,05", "314,159", "20"));
+  expect("2|314.159265", wave("PULSAZIONE/SECONDO :", "5995850", "0,05", "314,159", "20"));
+  EXPECT_EQ(window.text("txtinput"), "314.159265");
+  window.click("Option1_1");
+  EXPECT_EQ(window.text("txtinput lblmetri lblperiodo"), "||");
+  expect("1|1e15", wave("FREQUENZA IN KHz :", "2,99792E-10", "1E+15", "6,28319E+18", "1E-15"));
+  for (const char* unusable : {"1|0", "1|-3", "1|1.1e15", "1|9e-13"}) {
+    expect(unusable, "FREQUENZA IN KHz :||||");
+  }
+}
+
+using frmradianti = FormTest;
+
+TEST_F(frmradianti, EveryUnitSignAndRounding) {
+  use("mnuradiant", "Option1 txtinput",
+      "lblgradi lblsessagesimali lblradianti lblcentesimali lblgiri");
+  const auto angle = [](const std::string& degrees, const std::string& sexagesimal,
+                        const std::string& radians, const std::string& gons,
+                        const std::string& turns) {
+    return "GRADI DECIMALI = " + degrees + "|GRADI SESSAGESIMALI = " + sexagesimal +
+           "|RADIANTI = " + radians + "|GRADI CENTESIMALI = " + gons + "|GIRI = " + turns;
+  };
+  expect("0|57.29578", angle("57,29578", "57° 17' 44,8\"", "1", "63,661978", "0,15915494"));
+  EXPECT_EQ(window.text("lblvaloreseno lblvalorecoseno"), "0,8415|0,5403");
+  expect("1|3.14159265", angle("180", "180° 0' 0,0\"", "3,1415927", "200", "0,5"));
+  EXPECT_EQ(window.text("lblinput lblvaloreseno lblvalorecoseno"), "RADIANTI :|0,0000|-1,0000");
+  expect("2|-50", angle("-45", "-45° 0' 0,0\"", "-0,78539816", "-50", "-0,125"));
+  expect("0|0", angle("0", "0° 0' 0,0\"", "0", "0", "0"));
+  enter("0|-0.00001");  // 0.036 seconds
+  EXPECT_EQ(window.text("lblsessagesimali"), "GRADI SESSAGESIMALI = 0° 0' 0,0\"");
+  enter("0|-0.000014");  // 0.0504 seconds
+  EXPECT_EQ(window.text("lblsessagesimali"), "GRADI SESSAGESIMALI = -0° 0' 0,1\"");
+  enter("0|1e9");
+  EXPECT_EQ(window.text("lblsessagesimali lblvaloreseno"),
+            "GRADI SESSAGESIMALI = 1000000000° 0' 0,0\"|-0,9848");  // of 280 degrees
+  for (const char* unusable : {"0|", "0|-", "0|1.1e9", "0|-1.1e9"}) {
+    expect(unusable, "||||");
+    EXPECT_EQ(window.text("lblvaloreseno lblvalorecoseno"), "|");
+  }
+}
+
+using frmprefissi = FormTest;
+
+TEST_F(frmprefissi, FromOnePrefixToAnother) {
+  use("mnuprefissi", "cmbda cmba txtinput", "lbloutput");
+  EXPECT_EQ(window.text("cmbda cmba lbloutput"), "-|-|");
+  const char* const table[][2] = {{"k|M|7100", "7,1"},
+                                  {"p|n|-4700", "-4,7"},
+                                  {"-|µ|0.00000047", "0,47"},
+                                  {"da|d|1.5", "150"},
+                                  {"-|-|0", "0"},
+                                  {"Q|q|1", "1E+60"},
+                                  {"-|k|1234567890123.5", ""},
+                                  {"m|-|123456789012.5", "123456789,013"},
+                                  {"-|-|", ""}};
+  for (const auto& [typed, result] : table) {
+    expect(typed, result);
+  }
+}
+
+TEST_F(frmprefissi, WritesTheNumbersOutAsTheCountryDoes) {
+  use("mnuprefissi", "txtinput", "lbloutput");
+  EXPECT_EQ(window.text("lblprefisso_0 lblsimbolo_0 lblfattore_0 lblnumero_0"), "quetta|Q|10³⁰|");
+  EXPECT_EQ(window.text("lblprefisso_23 lblsimbolo_23 lblfattore_23 lblnumero_23"),
+            "quecto|q|10⁻³⁰|");
+  EXPECT_EQ(window.text("lblnumero_5 lblnumero_6 lblnumero_9 lblnumero_11"),
+            "|1 000 000 000 000|1 000|10");
+  EXPECT_EQ(window.text("lblnumero_12 lblnumero_14 lblnumero_15 lblnumero_17 lblnumero_18"),
+            "0,1|0,001|0,000 001|0,000 000 000 001|");
+  window.click("cmdchiudi");
+  set_regional_settings({});
+  EXPECT_EQ(choose("mnuprefissi").text("lblnumero_15"), "0.000 001");
 }
 
 }  // namespace
