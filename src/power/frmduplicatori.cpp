@@ -32,7 +32,7 @@ class frmduplicatori final : public ui::Calculator {
   ui::Result lblripple{this, "lblripple"};
   ui::Result lbllavoro{this, "lbllavoro"};
   ui::Result lbldiodi{this, "lbldiodi"};
-  ui::Schematic drawing{this, "drawing", 53, 31};
+  ui::Schematic drawing{this, "drawing", 46, 32};
   ui::Value lblvalorec1{drawing, "lblvalorec1"};
   ui::Value lblvalorec2{drawing, "lblvalorec2"};
   ui::Value lblvaloreuscita{drawing, "lblvaloreuscita"};
@@ -55,14 +55,14 @@ class frmduplicatori final : public ui::Calculator {
   void show_example() override { fill_in({"220", "150", "2", "50"}); }
 
  private:
-  static constexpr double top = 4;
-  static constexpr double bottom = 28;
-  static constexpr double load_x = 41;
-  static constexpr ui::Transformer mains{{4, 13}, ui::Transformer::Core::iron};
+  static constexpr double top = 5.5;
+  static constexpr double bottom = 29.5;
+  static constexpr double load_x = 33;
+  static constexpr ui::Transformer mains{{4, 14.5}, ui::Transformer::Core::iron};
 
   void draw_full_wave() {
-    constexpr double diodes_x = 13;
-    constexpr double capacitors_x = 24;
+    constexpr double diodes_x = 11;
+    constexpr double capacitors_x = 19.5;
     constexpr double input_y = mains.secondary_top.y;
     constexpr double middle_y = mains.secondary_bottom.y;
     drawing.transformer(mains)
@@ -87,15 +87,15 @@ class frmduplicatori final : public ui::Calculator {
   }
 
   void draw_half_wave() {
-    constexpr double diode_x = 16;
-    constexpr double capacitor_x = 25;
+    constexpr double diode_x = 13;
+    constexpr double capacitor_x = 20;
     drawing.transformer(mains)
         .wire({mains.secondary_top, {mains.secondary_top.x, top}})
         .electrolytic({diode_x, top}, {mains.secondary_top.x, top})
-        .named("C1", lblvalorec1)
+        .named_beside("C1", lblvalorec1, Side::above)
         .junction({diode_x, top})
         .diode({diode_x, bottom}, {diode_x, top})
-        .named("D1", Side::right)
+        .named("D1", Side::left)
         .diode({diode_x, top}, {capacitor_x, top})
         .named("D2", Side::above);
     drawing.wire({mains.secondary_bottom, {mains.secondary_bottom.x, bottom}, {load_x, bottom}})
@@ -109,7 +109,8 @@ class frmduplicatori final : public ui::Calculator {
   }
 
   void draw_load() {
-    drawing.resistor({load_x, top}, {load_x, bottom}).named("RL", lblvaloreuscita);
+    drawing.resistor({load_x, top}, {load_x, bottom})
+        .named_beside("RL", lblvaloreuscita, Side::right);
   }
 
   void compute() override {

@@ -1,6 +1,7 @@
 #include "ui/result_table.h"
 
 #include <QEvent>
+#include <QFontMetrics>
 #include <QGridLayout>
 #include <algorithm>
 #include <string>
@@ -21,6 +22,14 @@ class Cell : public Label {
     setAlignment((is_text ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
   }
   using Label::operator=;
+
+  /// Columns keep their width whichever row is marked.
+  [[nodiscard]] QSize sizeHint() const override {
+    QFont bold = font();
+    bold.setBold(true);
+    return Label::sizeHint().expandedTo(
+        QFontMetrics{bold}.boundingRect({}, Qt::AlignLeft, text()).size());
+  }
 };
 
 class ResultCell final : public Cell, public Blankable {

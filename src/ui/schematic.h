@@ -165,8 +165,8 @@ class Schematic final : public QWidget {
   /// Draws a symbol in the middle of its two wires.
   Schematic& part(At from, At to, const Symbol& symbol);
   Schematic& part(At from, At to, const Symbol& symbol, const Symbol& upright);
-  Schematic& symbol(At place, const Symbol& symbol, const QTransform& turned);
-  Schematic& symbol(At place, const Symbol& symbol, Flip flip = Flip::none);
+  Schematic& add(At place, const Symbol& symbol, const QTransform& turned);
+  Schematic& add(At place, const Symbol& symbol, Flip flip = Flip::none);
   /// The wire to a symbol with its middle at a place, and an edge seen from there.
   void lead(At from, QPointF symbol, QPointF edge);
   void line(Shapes::Look look, const std::vector<At>& corners);

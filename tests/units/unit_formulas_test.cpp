@@ -97,55 +97,56 @@ TEST(Measures, FactorsAsPublished) {
     }
   }
   EXPECT_EQ(found, published.size());
+}
 
-  TEST(WaveQuantities, BelongTogetherWhicheverIsGiven) {
-    for (const WaveQuantities& wave : {wave_of_wavelength(0.7), wave_of_frequency(0.7),
-                                       wave_of_angular_frequency(0.7), wave_of_period(0.7)}) {
-      EXPECT_DOUBLE_EQ((wave.wavelength_m * wave.frequency_hz).value(), 299'792'458);
-      EXPECT_DOUBLE_EQ((wave.frequency_hz * wave.period_s).value(), 1);
-      EXPECT_DOUBLE_EQ((wave.angular_frequency_rad_per_s * wave.period_s).value(), 2 * pi);
-    }
-    EXPECT_EQ(wave_of_wavelength(0.7).wavelength_m, 0.7);
-    EXPECT_EQ(wave_of_angular_frequency(0.7).angular_frequency_rad_per_s, 0.7);
-    EXPECT_EQ(wave_of_period(0.7).period_s, 0.7);
+TEST(WaveQuantities, BelongTogetherWhicheverIsGiven) {
+  for (const WaveQuantities& wave : {wave_of_wavelength(0.7), wave_of_frequency(0.7),
+                                     wave_of_angular_frequency(0.7), wave_of_period(0.7)}) {
+    EXPECT_DOUBLE_EQ((wave.wavelength_m * wave.frequency_hz).value(), 299'792'458);
+    EXPECT_DOUBLE_EQ((wave.frequency_hz * wave.period_s).value(), 1);
+    EXPECT_DOUBLE_EQ((wave.angular_frequency_rad_per_s * wave.period_s).value(), 2 * pi);
   }
+  EXPECT_EQ(wave_of_wavelength(0.7).wavelength_m, 0.7);
+  EXPECT_EQ(wave_of_angular_frequency(0.7).angular_frequency_rad_per_s, 0.7);
+  EXPECT_EQ(wave_of_period(0.7).period_s, 0.7);
+}
 
-  // Worked out by hand.
-  TEST(Angles, SexagesimalCarriesOver) {
-    const std::tuple<double, bool, double, int, double> table[] = {
-        {59.99999, false, 60, 0, 0},    {-1.99999, true, 2, 0, 0},
-        {12.5125, false, 12, 30, 45},   {0.0125125, false, 0, 0, 45},  // 45.045 seconds
-        {0.000125, false, 0, 0, 0.5},    // 0.45 seconds: away from zero
-        {-359.983325, true, 359, 59, 0}  // 59 minutes less 0.03 seconds
-    };
-    for (const auto& [degrees, is_negative, whole, minutes, seconds] : table) {
-      SCOPED_TRACE(degrees);
-      const SexagesimalAngle angle = sexagesimal(degrees);
-      EXPECT_EQ(angle.is_negative, is_negative);
-      EXPECT_EQ(angle.degrees, whole);
-      EXPECT_EQ(angle.minutes, minutes);
-      EXPECT_EQ(angle.seconds, seconds);
-    }
+// Worked out by hand.
+TEST(Angles, SexagesimalCarriesOver) {
+  const std::tuple<double, bool, double, int, double> table[] = {
+      {59.99999, false, 60, 0, 0},    {-1.99999, true, 2, 0, 0},
+      {12.5125, false, 12, 30, 45},   {0.0125125, false, 0, 0, 45},  // 45.045 seconds
+      {0.000125, false, 0, 0, 0.5},                                  // 0.45 seconds: away from zero
+      {-359.983325, true, 359, 59, 0}                                // 59 minutes less 0.03 seconds
+  };
+  for (const auto& [degrees, is_negative, whole, minutes, seconds] : table) {
+    SCOPED_TRACE(degrees);
+    const SexagesimalAngle angle = sexagesimal(degrees);
+    EXPECT_EQ(angle.is_negative, is_negative);
+    EXPECT_EQ(angle.degrees, whole);
+    EXPECT_EQ(angle.minutes, minutes);
+    EXPECT_EQ(angle.seconds, seconds);
   }
+}
 
-  TEST(Angles, LoseWholeTurnsButNotTheirSign) {
-    EXPECT_EQ(within_a_turn(-810), -90);
-    EXPECT_EQ(within_a_turn(720.25), 0.25);
-  }
+TEST(Angles, LoseWholeTurnsButNotTheirSign) {
+  EXPECT_EQ(within_a_turn(-810), -90);
+  EXPECT_EQ(within_a_turn(720.25), 0.25);
+}
 
-  // The rule of the SI: capitals from mega on, small letters below one.
-  TEST(SiPrefixes, GoDownInPairsAndByTheRuleOfCapitals) {
-    int previous = 33;
-    for (const SiPrefix& prefix : si_prefixes) {
-      EXPECT_LT(prefix.exponent, previous);
-      previous = prefix.exponent;
-      const bool is_capital = prefix.symbol[0] >= 'A' && prefix.symbol[0] <= 'Z';
-      EXPECT_EQ(is_capital, prefix.exponent >= 6) << prefix.name;
-      EXPECT_TRUE(std::ranges::any_of(si_prefixes, [&](const SiPrefix& other) {
-        return other.exponent == -prefix.exponent;
-      })) << prefix.name;
-    }
+// The rule of the SI: capitals from mega on, small letters below one.
+TEST(SiPrefixes, GoDownInPairsAndByTheRuleOfCapitals) {
+  int previous = 33;
+  for (const SiPrefix& prefix : si_prefixes) {
+    EXPECT_LT(prefix.exponent, previous);
+    previous = prefix.exponent;
+    const bool is_capital = prefix.symbol[0] >= 'A' && prefix.symbol[0] <= 'Z';
+    EXPECT_EQ(is_capital, prefix.exponent >= 6) << prefix.name;
+    EXPECT_TRUE(std::ranges::any_of(si_prefixes, [&](const SiPrefix& other) {
+      return other.exponent == -prefix.exponent;
+    })) << prefix.name;
   }
+}
 
 }  // namespace
 }  // namespace eterlab::units
