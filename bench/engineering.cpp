@@ -12,6 +12,7 @@
 #include "circuits/handbook_resonance.h"
 #include "circuits/ohms_law.h"
 #include "circuits/proportioned_tank.h"
+#include "circuits/time_constant.h"
 #include "coils/flat_spiral.h"
 #include "coils/multilayer_coil.h"
 #include "coils/single_layer_coil.h"
@@ -19,11 +20,22 @@
 #include "coils/toroids/toroid_cores.h"
 #include "coils/toroids/toroid_transformer.h"
 #include "coils/toroids/toroid_tuning.h"
+#include "filters/filter_response.h"
 #include "filters/lc_filters.h"
+#include "filters/lc_notch.h"
+#include "filters/rc_filters.h"
 #include "lines/coax_cables.h"
+#include "lines/geometry/coaxial_line.h"
+#include "lines/geometry/facing_strips.h"
+#include "lines/geometry/geometry_factor.h"
+#include "lines/geometry/round_rods.h"
+#include "lines/geometry/uniform_line.h"
+#include "lines/geometry/wire_over_ground.h"
 #include "lines/matching/gamma_match.h"
 #include "lines/standing_wave.h"
 #include "materials/copper_wire.h"
+#include "materials/skin_effect.h"
+#include "materials/strand.h"
 #include "power/three_terminal_regulator.h"
 #include "resistors/meter_resistance.h"
 #include "resistors/pads/handbook_pads.h"
@@ -102,6 +114,9 @@ void register_circuits() {
   call("circuits/handbook_capacitive_reactance_ohm", handbook_capacitive_reactance_ohm, 7.1, 100.0);
   call("circuits/handbook_resonance", handbook_resonance, 10.0, 100.0);
   call("circuits/proportioned_tank", proportioned_tank, 7.1);
+  call("circuits/risen_to", risen_to, 12.0, 0.03, 0.047);
+  call("circuits/fallen_to", fallen_to, 12.0, 0.03, 0.047);
+  call("circuits/time_constants_until", time_constants_until, 8.0, 12.0);
 }
 
 void register_filters() {
@@ -111,6 +126,23 @@ void register_filters() {
   call("filters/trap_low_pass", trap_low_pass, 30.0, 50.0);
   call("filters/band_pass", band_pass, 50.0, 7.0, 7.2);
   call("filters/split", split, band_pass(50, 7, 7.2));
+  const NotchTask notch{7.1e6, 400e3, 50};
+  call("filters/trap", trap, TrapForm::series_to_ground, notch);
+  call("filters/notch_edges", notch_edges, notch);
+  call("filters/notch_attenuation_db", notch_attenuation_db, notch, 150.0, 7.0e6);
+  const ThreeElementFilter pi_filter{PassBand::low, FilterForm::pi, 1.59e-6, 318e-12, 50};
+  call(
+      "filters/attenuation_db",
+      [](const ThreeElementFilter& filter, Real frequency_hz) {
+        return attenuation_db(filter, frequency_hz);
+      },
+      pi_filter, 14.2e6);
+  call("filters/cutoff_hz", cutoff_hz, pi_filter);
+  call("filters/active_low_pass_f", active_low_pass_f, 2700.0, 1e4);
+  call("filters/active_high_pass_ohm", active_high_pass_ohm, 300.0, 1e-8);
+  call("filters/butterworth_attenuation_db", butterworth_attenuation_db, PassBand::low, 2, 2700.0,
+       5000.0);
+  call("filters/twin_t_attenuation_db", twin_t_attenuation_db, 50.0, 60.0);
 }
 
 void register_resistors() {
@@ -162,6 +194,8 @@ void register_coils() {
 void register_materials() {
   using namespace materials;
   call("materials/copper_wire", copper_wire, 0.5, 100.0);
+  call("materials/round_wire_impedance_ratio", round_wire_impedance_ratio, 10.0);
+  call("materials/wires_in_strand", wires_in_strand, 37);
 }
 
 void register_antennas() {
@@ -188,6 +222,24 @@ void register_lines() {
   call("lines/find_coax_cable", find_coax_cable, coax_cables().back().name);
   call("lines/gamma_match", gamma_match, 28.5);
   call("lines/mismatch_of", mismatch_of, 1.5);
+  const PairOverGround pair{2, 100, 50};
+  const FacingStrips strips{1.6, 0.035, 5, 4.4};
+  call("lines/wire_pair_factor", wire_pair_factor, 2.0, 100.0);
+  call("lines/wire_pair_spacing", wire_pair_spacing, 2.0, 4.6);
+  call("lines/push_pull_factor", push_pull_factor, pair);
+  call("lines/joined_factor", joined_factor, pair);
+  call("lines/pair_between_plates_factor", pair_between_plates_factor, 3.0, 15.0, 20.0);
+  call("lines/shielded_pair_factor", shielded_pair_factor, 2.0, 8.0, 16.0);
+  call("lines/rod_between_plates_factor", rod_between_plates_factor, 10.0, 20.0);
+  call("lines/rod_in_square_factor", rod_in_square_factor, 8.0, 20.0);
+  call("lines/enclosed_rod_diameter", enclosed_rod_diameter, rod_between_plates_factor, 16.0, 0.8);
+  call("lines/nearest_rod_mm", nearest_rod_mm, 8.8);
+  call("lines/coaxial_highest_frequency_hz", coaxial_highest_frequency_hz, 0.001, 0.003, 2.26);
+  call("lines/strip_line", strip_line, strips);
+  call("lines/strip_width", strip_width, strips, 43.0);
+  call("lines/horizontal_wire", horizontal_wire, 0.002, 6.0, 20.0);
+  call("lines/vertical_wire_capacitance_f", vertical_wire_capacitance_f, 0.002, 10.0, 0.5);
+  call("lines/line_constants", line_constants, 50.0, 0.66);
 }
 
 void register_power() {

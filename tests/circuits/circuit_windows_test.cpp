@@ -88,5 +88,78 @@ TEST_F(frmdimcirclc, ComputesAsTheUserTypes) {
   expect("0", "|");
 }
 
+using frmcostantetemporc = FormTest;
+
+// The exponential in 30 digits.
+TEST_F(frmcostantetemporc, ChargeAndDischarge) {
+  use("mnucostrc", "txtohm txtcapacita txtvolt txttempo",
+      "lbltau lbl95 lbl99 lblcarica lblscarica");
+  const std::string settling =
+      "COSTANTE DI TEMPO = 47 ms|CARICA AL 95 % IN 140,8 ms|CARICA AL 99 % IN 216,4 ms";
+  expect("47000|1|10|30", settling + "|TENSIONE IN CARICA = 4,718 V|TENSIONE IN SCARICA = 5,282 V");
+  for (const char* typed : {"47000|1||", "47000|1|10|", "47000|1|-10|30", "47000|1|10|-30"}) {
+    expect(typed, settling + "||");
+  }
+  expect("47000|1|10|2000", settling + "|TENSIONE IN CARICA = 10 V|TENSIONE IN SCARICA = 0 V");
+  expect("1000000000000|1000000000000|1|0.000000001",
+         "COSTANTE DI TEMPO = 1E+18 s|CARICA AL 95 % IN 2,996E+18 s|CARICA AL 99 % IN "
+         "4,605E+18 s|TENSIONE IN CARICA = 1E-15 fV|TENSIONE IN SCARICA = 1 V");
+  expect_refusal("0|1||", "txtohm");
+  expect_refusal("1|||", "txtcapacita");
+  const char* const range = "VALORI AMMESSI: DA -1000000000000 A 1000000000000";
+  expect_refusal("1|1|-1000000000001|", "txtvolt", range);
+  expect_refusal("1|1||1000000000001", "txttempo", range);
+}
+
+using frmcostantetemporl = FormTest;
+
+TEST_F(frmcostantetemporl, RiseOfTheCurrent) {
+  use("mnucostrl", "txtohm txtinduttanza txtvolt txttempo",
+      "lbltau lbl95 lbl99 lblcarica lblscarica");
+  const std::string settling =
+      "COSTANTE DI TEMPO = 2,5 ms|CORRENTE AL 95 % IN 7,489 ms|CORRENTE AL 99 % IN 11,51 ms";
+  expect("100|250|12|5",
+         settling + "|CORRENTE DOPO IL TEMPO INDICATO = 103,8 mA|CORRENTE FINALE = 120 mA");
+  EXPECT_EQ(window.text("lblvaloretensione lblvaloreresistenza lblvalorecomponente"),
+            "12 V|100 Ohm|250 mH");
+  expect("100|250|12|", settling + "||");
+  EXPECT_EQ(window.text("lblvaloretensione"), "");
+  // First the current grows by U / L: 12 V / 250 mH in a nanosecond are 48 nA.
+  expect("100|250|12|0.000001",
+         settling + "|CORRENTE DOPO IL TEMPO INDICATO = 48 nA|CORRENTE FINALE = 120 mA");
+  expect_refusal("0|1||", "txtohm");
+  expect_refusal("1|||", "txtinduttanza");
+}
+
+using frmesempiocostempo = FormTest;
+
+// ln(U / (U - Us)): ln 3, ln 2; of a small threshold it is Us / U.
+TEST_F(frmesempiocostempo, EachOfTheThree) {
+  const std::string parts = "lblvaloreresistenza lblvalorecapacita lblvaloresoglia";
+  use("mnuesempiocostante", "Option1 txtinput_0 txtinput_1 txtvolt txtsoglia",
+      "lbloutput lblcommerciale");
+  expect("0|100|47|12|8", "RITARDO = 5,163 s|");
+  EXPECT_EQ(window.text(parts), "100 kOhm|47 µF|8 V");
+  expect("0|1|1|1000000|0.001", "RITARDO = 1 ps|");
+  window.click("Option1_1");
+  EXPECT_EQ(window.text("lblinput_0 lblinput_1 txtinput_0 txtinput_1 txtvolt lbloutput"),
+            "RITARDO in SECONDI :|CAPACITA' in microF :|||1000000|");
+  expect("1|10|100|12|6", "RESISTENZA = 144,3 kOhm|CON 150 kOhm (E24) IL RITARDO E' 10,4 s");
+  EXPECT_EQ(window.text(parts), "144,3 kOhm|100 µF|6 V");
+  expect("2|10|100|12|6", "CAPACITA' = 144,3 µF|CON 150 µF (E12) IL RITARDO E' 10,4 s");
+  EXPECT_EQ(window.text("lblinput_0 lblinput_1"), "RITARDO in SECONDI :|RESISTENZA in kOhm :");
+  window.click("Option1_0");
+  EXPECT_EQ(window.text("lblinput_0 lblinput_1"), "RESISTENZA in kOhm :|CAPACITA' in microF :");
+}
+
+TEST_F(frmesempiocostempo, AThresholdThatIsReached) {
+  use("mnuesempiocostante", "Option1 txtinput_0 txtinput_1 txtvolt txtsoglia",
+      "lbloutput lblcommerciale");
+  expect_refusal("0|100||12|", "txtinput_1");
+  for (const char* typed : {"0|100|47|8|12", "1|100|47|12|12"}) {
+    expect_refusal(typed, "txtsoglia", "LA SOGLIA DEVE ESSERE MINORE DELLA TENSIONE");
+  }
+}
+
 }  // namespace
 }  // namespace eterlab::test

@@ -130,5 +130,143 @@ TEST_F(frmpassabandakcostante, WarnsAboveTen) {
             "LA BANDA PASSANTE E' -0,500 MHz");
 }
 
+using frmnotchaf = FormTest;
+
+// By nodal analysis of source, trap and load, the losses of the coil with it. The other form of the
+// same notch has the same response; its parts are L and C of the first, 2 Z as far from each other.
+TEST_F(frmnotchaf, BothTrapsOfOneResponse) {
+  use("mnufiltronotchaf", "Option1 txtfrequenza txtbanda txtohm txtq",
+      "lblinduttanza lblcapacita lblattenuazione lblbanda");
+  EXPECT_EQ(window.text("txtohm txtq"), "50|100");
+  const std::string response =
+      "|ATTENUAZIONE AL CENTRO = 19,5 dB|BANDA A 3 dB DA 6,90282 MHz A 7,30282 MHz";
+  expect("0|7.1|400|50|150", "INDUTTANZA = 9,947 µH|CAPACITA' = 50,52 pF" + response);
+  EXPECT_EQ(window.text("lblvaloresorgente lblvaloreinduttanza lblvalorecapacita lblvalorecarico"),
+            "50 Ohm|9,947 µH|50,52 pF|50 Ohm");
+  expect("1|7.1|400|50|150", "INDUTTANZA = 126,3 nH|CAPACITA' = 3,979 nF" + response);
+  window.click("Option1_0");
+  EXPECT_EQ(results(), "|||");
+  // The narrowest and widest, and a coil next to useless: 6.02 dB at the centre.
+  expect("0|1000000000000|0.000000000001|50|1",
+         "INDUTTANZA = 3,979 GH|CAPACITA' = 6,366E-33 fF|ATTENUAZIONE AL CENTRO = 0,0 dB|"
+         "BANDA A 3 dB DA 1000000000 GHz A 1000000000 GHz");
+  expect("0|1|999.999999999|50|1",
+         "INDUTTANZA = 3,979 µH|CAPACITA' = 6,366 nF|ATTENUAZIONE AL CENTRO = 6,0 dB|"
+         "BANDA A 3 dB DA 618,034 kHz A 1,61803 MHz");
+}
+
+TEST_F(frmnotchaf, ChecksItsNumbers) {
+  use("mnufiltronotchaf", "Option1 txtfrequenza txtbanda txtohm txtq",
+      "lblinduttanza lblcapacita lblattenuazione lblbanda");
+  expect_refusal("0|7.1|400||0", "txtohm");
+  expect_refusal("0|7.1|400|50|0.99", "txtq", "VALORI AMMESSI: DA 1 A 1000000");
+  expect_refusal("0|7.1|400|50|1000001", "txtq", "VALORI AMMESSI: DA 1 A 1000000");
+  for (const char* typed : {"1|7.1|7100|50|150", "0|1.001|1001|50|150", "0|0.3|300|50|150"}) {
+    expect_refusal(typed, "txtbanda", "LA BANDA DEVE ESSERE MINORE DELLA FREQUENZA");
+  }
+}
+
+using frmnotchbf = FormTest;
+
+TEST_F(frmnotchbf, InHertz) {
+  use("mnufiltronotchbf", "Option1 txtfrequenza txtbanda txtohm txtq",
+      "lblinduttanza lblcapacita lblattenuazione lblbanda");
+  EXPECT_EQ(window.text("txtohm txtq"), "600|20");
+  expect("0|1000|200|600|20",
+         "INDUTTANZA = 238,7 mH|CAPACITA' = 106,1 nF|ATTENUAZIONE AL CENTRO = 14,0 dB|"
+         "BANDA A 3 dB DA 904,988 Hz A 1,10499 kHz");
+  expect_refusal("1|50|60|600|20", "txtbanda", "LA BANDA DEVE ESSERE MINORE DELLA FREQUENZA");
+}
+
+using frmfiltronotch = FormTest;
+
+// 1 / (2 pi f x) in 30 digits.
+TEST_F(frmfiltronotch, FromEitherPart) {
+  use("mnufiltrinotch", "Option1 txtfrequenza txtinput", "lblr lblr2 lblc lblc2 lblcommerciale");
+  expect("0|50|100",
+         "R = 31,83 kOhm|R / 2 = 15,92 kOhm|C = 100 nF|2 C = 200 nF|"
+         "CON R = 33 kOhm (E24) E C = 100 nF IL NOTCH E' A 48,23 Hz");
+  EXPECT_EQ(window.text("lblinput lblvaloreruscita lblvalorer2 lblvalorecingresso lblvalore2c"),
+            "C in nF :|31,83 kOhm|15,92 kOhm|100 nF|200 nF");
+  window.click("Option1_1");
+  EXPECT_EQ(window.text("lblinput txtinput lblr lblcommerciale lblvalore2c"), "R in kOhm :||||");
+  expect("1|1000|10.4",
+         "R = 10,4 kOhm|R / 2 = 5,2 kOhm|C = 15,3 nF|2 C = 30,61 nF|"
+         "CON R = 10 kOhm (E24) E C = 15,3 nF IL NOTCH E' A 1,04 kHz");
+  expect_refusal("1|1000|0", "txtinput");
+}
+
+using frmfiltriBF = FormTest;
+
+// Poles of the circuits at the cut-off, in 30 digits; 1 / (2 pi 3 kHz 10 nF) = 5305.16.
+TEST_F(frmfiltriBF, FourCircuits) {
+  use("mnupassaaltobasso", "Option1 txtfrequenza txtinput", "lbl1 lbl2 lbltaglio lblpendenza");
+  const std::string passive =
+      "R = 5,305 kOhm, E24 5,1 kOhm||TAGLIO A 3 dB CON IL VALORE COMMERCIALE = 3,121 kHz|"
+      "PENDENZA 6 dB PER OTTAVA";
+  const std::string values =
+      "lblinput lblvaloreserie1 lblvaloreserie2 lblvaloremassa lblvaloreuscita";
+  expect("0|3000|10", passive);
+  EXPECT_EQ(window.text(values), "C in nF :|5,305 kOhm||10 nF|");
+  expect("1|3000|10", passive);
+  EXPECT_EQ(window.text(values), "C in nF :|10 nF||5,305 kOhm|");
+  expect("2|2700|10",
+         "C1 = 8,336 nF, E12 8,2 nF|C2 = 4,168 nF, E12 3,9 nF|TAGLIO A 3 dB = 2,7 kHz|"
+         "PENDENZA 12 dB PER OTTAVA (BUTTERWORTH)");
+  EXPECT_EQ(window.text(values), "R in kOhm :|10 kOhm|10 kOhm|4,168 nF|8,336 nF");
+  EXPECT_TRUE(window.shows("lblvaloreuscita"));
+  window.click("Option1_3");
+  EXPECT_EQ(window.text("txtinput lbl1 lbl2 lbltaglio lblpendenza"), "||||");
+  expect("3|300|10",
+         "R1 = 37,51 kOhm, E24 36 kOhm|R2 = 75,03 kOhm, E24 75 kOhm|TAGLIO A 3 dB = 300 Hz|"
+         "PENDENZA 12 dB PER OTTAVA (BUTTERWORTH)");
+  EXPECT_EQ(window.text(values), "C in nF :|10 nF|10 nF|75,03 kOhm|37,51 kOhm");
+  expect_refusal("3|300|", "txtinput");
+  window.click("Option1_0");
+  EXPECT_FALSE(window.shows("lblvaloreuscita"));
+}
+
+using frmtestcurvafiltro = FormTest;
+
+// By analysis of the ladders; a Butterworth filter first.
+TEST_F(frmtestcurvafiltro, FourLadders) {
+  use("mnutestcurvafiltri", "Option1 txtinduttanza txtcapacita txtohm txtfrequenza",
+      "lblattenuazione lbltaglio lbloutput");
+  EXPECT_EQ(window.text("txtohm"), "50");
+  expect("0|1.59|318|50|14.2",
+         "ATTENUAZIONE = 9,61 dB|TAGLIO A 3 dB = 10,01 MHz|PASSA IL 10,93 % DELLA POTENZA");
+  EXPECT_EQ(window.text("lblvalore1 lblvalore2 lblvalore3"), "318 pF|1,59 µH|318 pF");
+  expect("1|0.795|636|50|20.02",
+         "ATTENUAZIONE = 18,13 dB|TAGLIO A 3 dB = 10,01 MHz|PASSA IL 1,54 % DELLA POTENZA");
+  EXPECT_EQ(window.text("lblvalore1 lblvalore2 lblvalore3"), "795 nH|636 pF|795 nH");
+  expect("2|1.59|318|50|0.001",
+         "ATTENUAZIONE = 221,96 dB|TAGLIO A 3 dB = 5,005 MHz|PASSA IL 0,00 % DELLA POTENZA");
+  EXPECT_EQ(window.text("lblvalore1 lblvalore2 lblvalore3"), "1,59 µH|318 pF|1,59 µH");
+  expect("3|0.8|160|50|3.5",
+         "ATTENUAZIONE = 32,39 dB|TAGLIO A 3 dB = 9,06 MHz|PASSA IL 0,06 % DELLA POTENZA");
+  EXPECT_EQ(window.text("lblvalore1 lblvalore2 lblvalore3"), "160 pF|800 nH|160 pF");
+  window.click("Option1_0");
+  EXPECT_EQ(results(), "||");
+  // Far below the cut-off nothing is lost.
+  expect("0|1.59|318|50|0.000001",
+         "ATTENUAZIONE = 0,00 dB|TAGLIO A 3 dB = 10,01 MHz|PASSA IL 100,00 % DELLA POTENZA");
+}
+
+TEST_F(frmtestcurvafiltro, RangesInTheOrderOfTheBoxes) {
+  use("mnutestcurvafiltri", "Option1 txtinduttanza txtcapacita txtohm txtfrequenza",
+      "lblattenuazione lbltaglio lbloutput");
+  expect_refusal("0|1.59|318|50|", "txtfrequenza");
+  expect_refusal("0|0.0009|0.009|50|", "txtfrequenza");  // what is missing goes first
+  const std::pair<const char*, std::pair<const char*, const char*>> table[] = {
+      {"0|0.0009|0.009|50|1", {"txtinduttanza", "0.001 A 1000000"}},
+      {"0|1|1000000001|0.09|1", {"txtcapacita", "0.01 A 1000000000"}},
+      {"0|1|1|0.09|1", {"txtohm", "0.1 A 100000"}},
+      {"0|1|1|50|100001", {"txtfrequenza", "0.000001 A 100000"}},
+  };
+  for (const auto& [typed, refusal] : table) {
+    expect_refusal(typed, refusal.first, std::string{"VALORI AMMESSI: DA "} + refusal.second);
+  }
+}
+
 }  // namespace
 }  // namespace eterlab::test

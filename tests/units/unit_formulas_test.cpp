@@ -1,14 +1,20 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
+#include <optional>
+#include <string_view>
 #include <tuple>
+#include <utility>
 
 #include "common/physics.h"
 #include "units/angles.h"
 #include "units/locator.h"
+#include "units/measures.h"
 #include "units/si_prefixes.h"
 #include "units/temperature.h"
 #include "units/wave_quantities.h"
+#include "units/wire_gauge.h"
 
 // What the windows leave open: digits that they do not show, limits and faults.
 
@@ -47,6 +53,50 @@ TEST(Locator, CentreOfASubsquare) {
   const Position nowhere = position_of("é€z z ").value();
   EXPECT_DOUBLE_EQ(nowhere.longitude_deg.value(), 136 * 20 - 180 + 42 * 2 + 25.5 / 12);
   EXPECT_EQ(nowhere.latitude_deg.value(), static_cast<float>(63 * 10 - 90 - 16 - 32.5 / 24));
+}
+
+// Diameters of ASTM B258, to a tenth of a mil; beyond them, half a gauge.
+TEST(WireGauge, NearestToADiameter) {
+  const std::pair<double, std::optional<int>> table[] = {
+      {11.684, -3},          {8.251, 0},  {2.588, 10},
+      {0.511, 24},           {0.127, 36}, {0.0254, 50},
+      {12.39, std::nullopt}, {12.37, -3}, {0.0236, std::nullopt},
+      {0.0237, 50}};
+  for (const auto& [diameter_mm, gauge] : table) {
+    EXPECT_EQ(nearest_awg(diameter_mm), gauge) << diameter_mm;
+  }
+}
+
+// NIST Special Publication 811, appendix B, to the digits that it prints.
+TEST(Measures, FactorsAsPublished) {
+  const std::map<std::string_view, double> published{{"ONCE", 28.34952},
+                                                     {"LIBBRE", 453.5924},
+                                                     {"GRANI", 0.06479891},
+                                                     {"POLLICI QUADRATI", 6.4516e-4},
+                                                     {"PIEDI QUADRATI", 9.290304e-2},
+                                                     {"ACRI", 4046.856},
+                                                     {"POLLICI CUBI", 1.638706e-2},
+                                                     {"PINTE INGLESI", 0.5682612},
+                                                     {"GALLONI INGLESI", 4.54609},
+                                                     {"GALLONI U.S.A.", 3.785412},
+                                                     {"PSI", 6894.757},
+                                                     {"POLLICI DI MERCURIO", 3386.389},
+                                                     {"HORSEPOWER", 745.6999},
+                                                     {"CAVALLI VAPORE", 735.4988},
+                                                     {"BTU ALL'ORA", 0.2930711},
+                                                     {"MIGLIA ORARIE", 0.44704},
+                                                     {"NODI", 0.5144444},
+                                                     {"CHILOMETRI ORARI", 0.2777778}};
+  std::size_t found = 0;
+  for (const Quantity& quantity : quantities()) {
+    for (const Unit& unit : quantity.units) {
+      if (const auto factor = published.find(unit.name); factor != published.end()) {
+        ++found;
+        EXPECT_NEAR(unit.size, factor->second, 5e-7 * factor->second) << unit.name;
+      }
+    }
+  }
+  EXPECT_EQ(found, published.size());
 }
 
 TEST(WaveQuantities, BelongTogetherWhicheverIsGiven) {

@@ -47,6 +47,48 @@ TEST_F(frmmils, BothWaysWhereAnOptionStartsAfresh) {
   expect_end("1e307");
 }
 
+using frmmisureinglesi = FormTest;
+
+TEST_F(frmmisureinglesi, LengthsInEveryUnit) {
+  use("mnumisureInglesi", "cmbunita txtinput",
+      "lblvalore_0 lblvalore_1 lblvalore_2 lblvalore_3 lblvalore_4 lblvalore_5 lblvalore_6 "
+      "lblvalore_7 lblvalore_8");
+  EXPECT_EQ(window.text("cmbunita lblunita_4"), "POLLICI|MIGLIA NAUTICHE");
+  expect("POLLICI|5.5",
+         "5,5|0,45833333|0,15277778|8,6805556E-05|7,5431965E-05|139,7|13,97|0,1397|0,0001397");
+  // The other unit computes at once; 66 feet to a chain.
+  window.type("cmbunita", "IARDE");
+  window.type("txtinput", "22");
+  EXPECT_EQ(window.text("lblvalore_1 lblvalore_7"), "66|20,1168");
+  window.type("cmbunita", "METRI");
+  EXPECT_EQ(window.text("lblvalore_2 lblvalore_6"), "24,059493|2200");
+  EXPECT_TRUE(window.control("lblvalore_7").font().bold());
+  for (const char* typed : {"METRI|0", "METRI|-1", "METRI|1.1e15", "METRI|1e-13"}) {
+    expect(typed, "||||||||");
+  }
+  expect("METRI|1e15",
+         "3,9370079E+16|3,2808399E+15|1,0936133E+15|621371190000|539956800000|1E+18|1E+17|"
+         "1E+15|1000000000000");
+}
+
+using frmaltreconversioni = FormTest;
+
+TEST_F(frmaltreconversioni, OtherQuantities) {
+  choose("mnumisureInglesi").click("cmdaltreconversioni");
+  use_opened(driven("frmaltreconversioni"), "cmbgrandezza cmbunita txtinput",
+             "lblvalore_0 lblvalore_1 lblvalore_2 lblvalore_3 lblvalore_4");
+  EXPECT_EQ(window.text("cmbgrandezza cmbunita lblunita_2"), "PESO|ONCE|GRANI");
+  expect("PESO|ONCE|10", "10|0,625|4375|283,4952|0,2834952");
+  window.type("cmbgrandezza", "VOLUME");
+  EXPECT_EQ(window.text("cmbunita txtinput lblunita_0 lblvalore_0"), "POLLICI CUBI||POLLICI CUBI|");
+  expect("VOLUME|GALLONI U.S.A.|0", "||||");
+  expect("VOLUME|GALLONI U.S.A.|1", "231|6,661393|0,8326742|1|3,785412");
+  expect("SUPERFICIE|ACRI|1", "6272640|43560|1|40468560|4046,856");
+  expect("PRESSIONE|ATMOSFERE|1", "14,69595|29,92125|1,01325|1|101325");
+  expect("POTENZA|HORSEPOWER|1", "1|1,01387|2544,434|745,6999|0,7456999");
+  expect("VELOCITA'|NODI|1", "1,150779|1|1,68781|1,852|0,5144444");
+}
+
 using LocatorWindows = FormTest;
 
 // Computed apart from this code, in double precision with the latitude packed to four bytes.
