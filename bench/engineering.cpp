@@ -25,9 +25,17 @@
 #include "filters/lc_notch.h"
 #include "filters/rc_filters.h"
 #include "lines/coax_cables.h"
+#include "lines/geometry/coaxial_line.h"
+#include "lines/geometry/facing_strips.h"
+#include "lines/geometry/geometry_factor.h"
+#include "lines/geometry/round_rods.h"
+#include "lines/geometry/uniform_line.h"
+#include "lines/geometry/wire_over_ground.h"
 #include "lines/matching/gamma_match.h"
 #include "lines/standing_wave.h"
 #include "materials/copper_wire.h"
+#include "materials/skin_effect.h"
+#include "materials/strand.h"
 #include "power/three_terminal_regulator.h"
 #include "resistors/meter_resistance.h"
 #include "resistors/pads/handbook_pads.h"
@@ -186,6 +194,8 @@ void register_coils() {
 void register_materials() {
   using namespace materials;
   call("materials/copper_wire", copper_wire, 0.5, 100.0);
+  call("materials/round_wire_impedance_ratio", round_wire_impedance_ratio, 10.0);
+  call("materials/wires_in_strand", wires_in_strand, 37);
 }
 
 void register_antennas() {
@@ -212,6 +222,24 @@ void register_lines() {
   call("lines/find_coax_cable", find_coax_cable, coax_cables().back().name);
   call("lines/gamma_match", gamma_match, 28.5);
   call("lines/mismatch_of", mismatch_of, 1.5);
+  const PairOverGround pair{2, 100, 50};
+  const FacingStrips strips{1.6, 0.035, 5, 4.4};
+  call("lines/wire_pair_factor", wire_pair_factor, 2.0, 100.0);
+  call("lines/wire_pair_spacing", wire_pair_spacing, 2.0, 4.6);
+  call("lines/push_pull_factor", push_pull_factor, pair);
+  call("lines/joined_factor", joined_factor, pair);
+  call("lines/pair_between_plates_factor", pair_between_plates_factor, 3.0, 15.0, 20.0);
+  call("lines/shielded_pair_factor", shielded_pair_factor, 2.0, 8.0, 16.0);
+  call("lines/rod_between_plates_factor", rod_between_plates_factor, 10.0, 20.0);
+  call("lines/rod_in_square_factor", rod_in_square_factor, 8.0, 20.0);
+  call("lines/enclosed_rod_diameter", enclosed_rod_diameter, rod_between_plates_factor, 16.0, 0.8);
+  call("lines/nearest_rod_mm", nearest_rod_mm, 8.8);
+  call("lines/coaxial_highest_frequency_hz", coaxial_highest_frequency_hz, 0.001, 0.003, 2.26);
+  call("lines/strip_line", strip_line, strips);
+  call("lines/strip_width", strip_width, strips, 43.0);
+  call("lines/horizontal_wire", horizontal_wire, 0.002, 6.0, 20.0);
+  call("lines/vertical_wire_capacitance_f", vertical_wire_capacitance_f, 0.002, 10.0, 0.5);
+  call("lines/line_constants", line_constants, 50.0, 0.66);
 }
 
 void register_power() {

@@ -23,6 +23,7 @@ TEST_F(CompanionWindows, StandAtTheirPlacesAlsoWhenTheyAreOpenAlready) {
       {"mnufiltronotchaf", "cmdchiamabobine", {12, 17}, "frmbobine", {533, 417}},
       {"mnufiltronotchbf", "cmdchiamabobine", {12, 17}, "frmbobine", {533, 417}},
       {"mnubobine", "cmdchiamaawg", {12, 12}, "frmawg", {273, 200}},
+      {"mnumisureInglesi", "cmdaltreconversioni", {12, 12}, "frmaltreconversioni", {273, 187}},
       {"mnuyagi3", "cmdgamma", {23, 23}, "frmgammamatch", {533, 533}},
       {"mnuyagi5", "cmdgamma", {13, 13}, "frmgammamatch", {533, 533}},
   };

@@ -9,7 +9,7 @@ namespace eterlab::capacitors {
 
 /// A temperature characteristic of class 1 ceramic capacitors.
 struct CeramicCharacteristic {
-  std::string_view code;     ///< "N750"
+  std::string_view name;     ///< its code, "N750"
   Real ppm_per_degree;       ///< change of capacitance with temperature
   std::string_view marking;  ///< the Italian names of its colours, IEC 60384-8: "ROSSO + VIOLA"
 };

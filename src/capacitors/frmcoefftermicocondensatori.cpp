@@ -34,9 +34,9 @@ class frmcoefftermicocondensatori final : public ui::Calculator {
   frmcoefftermicocondensatori()
       : Calculator{"frmcoefftermicocondensatori",
                    "COEFFICIENTE TERMICO DEI CONDENSATORI CERAMICI"} {
+    cmbcoefficiente.add_names_of(ceramic_characteristics());
     for (int row = 0; const CeramicCharacteristic& characteristic : ceramic_characteristics()) {
-      cmbcoefficiente.add(characteristic.code);
-      table.at(row, 0) = characteristic.code;
+      table.at(row, 0) = characteristic.name;
       table.at(row, 1) = plain(characteristic.ppm_per_degree);
       table.at(row, 2) = characteristic.marking;
       swatches.push_back(std::make_unique<ui::Swatch>(table, "swatch_" + std::to_string(row),
@@ -67,7 +67,7 @@ class frmcoefftermicocondensatori final : public ui::Calculator {
 
   void compute() override {
     const CeramicCharacteristic& characteristic =
-        ceramic_characteristics()[static_cast<std::size_t>(cmbcoefficiente.chosen())];
+        cmbcoefficiente.chosen_of(ceramic_characteristics());
     const Real ppm_per_degree = characteristic.ppm_per_degree;
     const Real capacitance_pf = txtcapacita.value();
     const Real degrees = txttemperatura.value();

@@ -41,9 +41,7 @@ class frmcostruzionecondensatori final : public ui::Calculator {
  public:
   frmcostruzionecondensatori()
       : Calculator{"frmcostruzionecondensatori", "COSTRUZIONE DI CONDENSATORI A FACCE PIANE"} {
-    for (const materials::Dielectric& dielectric : materials::dielectrics()) {
-      cmbdielettrico.add(dielectric.name);
-    }
+    cmbdielettrico.add_names_of(materials::dielectrics());
     cmbdielettrico.add("ALTRO");
     Option1.preset(capacitance);
     ask_for(capacitance);
@@ -78,8 +76,8 @@ class frmcostruzionecondensatori final : public ui::Calculator {
   void choose_dielectric() {
     txtepsilon = "";
     if (is_of_catalogue()) {
-      const auto chosen = static_cast<std::size_t>(cmbdielettrico.chosen());
-      txtepsilon = as_typed(materials::dielectrics()[chosen].relative_permittivity);
+      txtepsilon =
+          as_typed(cmbdielettrico.chosen_of(materials::dielectrics()).relative_permittivity);
     }
     txtepsilon.set_read_only(is_of_catalogue());
   }

@@ -9,6 +9,8 @@ enum Duty : std::uint8_t { direct, alternating, radio };  // in the order of the
 
 // The working voltage that a capacitor needs.
 class frmtensmincond final : public ui::Calculator {
+  static constexpr int characters_of_notes = 80;
+
   ui::OptionArray Option1{this, "Option1", {"IN CONTINUA", "IN ALTERNATA", "IN RADIOFREQUENZA"}};
   ui::Input txtinput_0{this, "txtinput_0", "", {.prompt_name = "lblinput_0"}};
   ui::Input txtinput_1{this,
@@ -32,7 +34,8 @@ class frmtensmincond final : public ui::Calculator {
     Option1.preset(direct);
     ask_for(direct);
     lay_out(ui::column(ui::across(Option1), ui::form(txtinput_0, txtinput_1, txtinput_2), lblpicco,
-                       lblminima, lblcommerciale, Label1));
+                       lblminima, lblcommerciale, Label1),
+            {}, characters_of_notes);
     Option1.on_click([this](int duty) { ask_for(duty); });
   }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <cmath>
 #include <string>
 #include <utility>
 
@@ -28,12 +29,12 @@ const Kind& kind_of(const CircuitPart& part) {
 
 // Places on the grid. A value as long as "999,9 kOhm" has room beside its part.
 constexpr double source_x = 4;
-constexpr double part_width = 12;           // of a part in the line
-constexpr double branch_width = 15;         // from a branch, its values beside it, to the next one
-constexpr double room_for_value = 12;       // beside the last branch
+constexpr double part_width = 14;           // of a part in the line
+constexpr double branch_width = 17;         // from a branch, its values beside it, to the next one
+constexpr double room_for_value = 14;       // beside the last branch
 constexpr double part_height = 9;           // of a part across
 constexpr double height_under_a_part = 12;  // at least, for its value over that of the generator
-constexpr double room_for_name = 3;         // over a part in the line
+constexpr double room_for_name = 3.5;       // over a part in the line
 constexpr double margin = 1;
 
 double top(const Circuit& circuit) { return circuit.in_line.empty() ? margin : room_for_name; }
@@ -62,7 +63,7 @@ int columns(const Circuit& circuit) {
 }
 
 int rows(const Circuit& circuit) {
-  return static_cast<int>(top(circuit) + height(circuit) + margin);
+  return static_cast<int>(std::ceil(top(circuit) + height(circuit) + margin));
 }
 
 /// Of the value of a part.
@@ -78,8 +79,7 @@ std::string label_name(std::string_view drawing, std::string_view part) {
 
 CircuitDrawing::CircuitDrawing(ui::Parent parent, std::string_view name, const Circuit& circuit,
                                const Circuit& neighbour)
-    : drawing_{parent, name, std::max(columns(circuit), columns(neighbour)),
-               std::max(rows(circuit), rows(neighbour))},
+    : drawing_{parent, name, columns(circuit), std::max(rows(circuit), rows(neighbour))},
       frequency_{drawing_, label_name(name, "f")} {
   const double top_y = top(circuit);
   const double bottom_y = std::max(rows(circuit), rows(neighbour)) - margin;
@@ -88,14 +88,16 @@ CircuitDrawing::CircuitDrawing(ui::Parent parent, std::string_view name, const C
       .named("f", frequency_)
       .wire({{source_x, bottom_y}, {last_x, bottom_y}});
 
+  const double first_x = first_branch(circuit);
   double x = source_x;
   for (const CircuitPart& part : circuit.in_line) {
-    add(part, {x, top_y}, {x + part_width, top_y});
-    x += part_width;
+    const double step = (first_x - source_x) / static_cast<double>(circuit.in_line.size());
+    add(part, {x, top_y}, {x + step, top_y});
+    x += step;
   }
   drawing_.wire({{x, top_y}, {last_x, top_y}});
 
-  x = first_branch(circuit);
+  x = first_x;
   for (const auto& branch : circuit.across) {
     const double step = (bottom_y - top_y) / static_cast<double>(branch.size());
     double y = top_y;

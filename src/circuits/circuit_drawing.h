@@ -34,7 +34,7 @@ struct Circuit {
 class CircuitDrawing {
  public:
   /// The labels of the values are named lblvalore and what they tell: lblvaloref, lblvalorer1; of a
-  /// second drawing with a 2 behind. It is as large as any of these circuits asks for.
+  /// second drawing with a 2 behind. It is as high as its neighbour, if any.
   CircuitDrawing(ui::Parent parent, std::string_view name, const Circuit& circuit,
                  const Circuit& neighbour = {});
 

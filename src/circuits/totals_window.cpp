@@ -10,10 +10,10 @@ namespace eterlab::circuits {
 
 namespace {
 
-constexpr int columns = 84;
+constexpr int columns = 90;
 constexpr int rows = 19;
 constexpr std::size_t least = 2;
-constexpr double slot = 13.5;  // of one part and its value
+constexpr double slot = 14.5;  // of one part and its value
 
 }  // namespace
 
@@ -30,8 +30,9 @@ TotalsWindow::TotalsWindow(const TotalsKind& kind, std::initializer_list<std::st
       lblvaloreparallelo{drawing, "lblvaloreparallelo", boxes.size()} {
   Option1.preset(0);
   lay_out(ui::column(ui::across(Option1),
-                     ui::row(ui::column(ui::form(boxes), ui::stretch()), drawing), lblserie,
-                     lblparallelo));
+                     ui::row(ui::form(boxes[0], boxes[1]), ui::form(boxes[2], boxes[3]),
+                             ui::form(boxes[4], boxes[5])),
+                     drawing, lblserie, lblparallelo));
 }
 
 void TotalsWindow::show_example() {
@@ -70,7 +71,7 @@ void TotalsWindow::draw(const std::vector<int>& indices) {
   constexpr double series_y = 4;
   constexpr double top = 9.5;
   constexpr double bottom = 17;
-  constexpr double lead = 3;  // to the first part in parallel
+  constexpr double lead = 2;  // to the first part in parallel
   const auto count = static_cast<double>(indices.size());
   const double left = (columns - count * slot) / 2;
   const auto name = [this](int index) {

@@ -102,6 +102,8 @@ Real cosh(Real x) { return Real{std::cosh(x.value())}; }
 
 Real tanh(Real x) { return Real{std::tanh(x.value())}; }
 
+Real asinh(Real x) { return Real{std::asinh(x.value())}; }
+
 Real floor(Real x) { return Real{std::floor(x.value())}; }
 
 Real ceil(Real x) { return Real{std::ceil(x.value())}; }

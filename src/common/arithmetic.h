@@ -125,6 +125,8 @@ Real sinh(Real x);
 Real cosh(Real x);
 /// Hyperbolic tangent.
 Real tanh(Real x);
+/// Inverse of sinh().
+Real asinh(Real x);
 
 /// The largest whole number not above x.
 Real floor(Real x);

@@ -24,7 +24,7 @@ class frmresistenzakm final : public ui::Calculator {
  public:
   frmresistenzakm()
       : Calculator{"frmresistenzakm", "RESISTENZA DI UN FILO IN CORRENTE CONTINUA E IN BF"} {
-    cmbmetallo.add_names_of(metals());
+    cmbmetallo.offer(metals());
     cmbmetallo.choose(copper.name);
     lay_out(ui::column(
         ui::row(ui::form(cmbmetallo, txtdiametro, txtlunghezza, txttemperatura), ui::stretch()),

@@ -25,7 +25,7 @@ class frmresistenzarf final : public ui::Calculator {
 
  public:
   frmresistenzarf() : Calculator{"frmresistenzarf", "RESISTENZA DI UN FILO IN RADIOFREQUENZA"} {
-    cmbmetallo.add_names_of(non_magnetic_metals());
+    cmbmetallo.offer(non_magnetic_metals());
     cmbmetallo.choose(copper.name);
     lay_out(
         ui::column(ui::row(ui::column(ui::form(cmbmetallo, txtfrequenza, txtdiametro, txtlunghezza),

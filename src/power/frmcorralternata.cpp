@@ -21,7 +21,7 @@ class frmcorralternata final : public ui::Calculator {
   ui::Result lblfase{this, "lblfase"};
   ui::Result lblimpedenza{this, "lblimpedenza"};
   ui::Result lblrifasamento{this, "lblrifasamento"};
-  ui::Schematic drawing{this, "drawing", 42, 28};
+  ui::Schematic drawing{this, "drawing", 46, 33};
   ui::Value lblvalores{drawing, "lblvalores"};
   ui::Value lblvalorep{drawing, "lblvalorep"};
   ui::Value lblvaloreq{drawing, "lblvaloreq"};
@@ -41,15 +41,16 @@ class frmcorralternata final : public ui::Calculator {
  private:
   /// The triangle of powers, to scale.
   void draw(const AcPower& power) {
-    constexpr ui::At origin{10, 22};
-    constexpr double longest = 20;
+    constexpr ui::At origin{10, 27};
+    constexpr double longest = 25;
     const double across = (longest * power.active_w / power.apparent_va).value();
     const double up = (longest * power.reactive_var / power.apparent_va).value();
     const ui::At corner{origin.x + across, origin.y};
     const ui::At tip{corner.x, origin.y - up};
 
     drawing.clear();
-    drawing.arrow(origin, corner)
+    drawing.wire({origin, corner, tip, origin})
+        .arrow(origin, corner)
         .arrow(corner, tip)
         .arrow(origin, tip)
         .arc(origin, 3, 0, power.phase_degrees.value());

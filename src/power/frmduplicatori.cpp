@@ -32,7 +32,7 @@ class frmduplicatori final : public ui::Calculator {
   ui::Result lblripple{this, "lblripple"};
   ui::Result lbllavoro{this, "lbllavoro"};
   ui::Result lbldiodi{this, "lbldiodi"};
-  ui::Schematic drawing{this, "drawing", 48, 26};
+  ui::Schematic drawing{this, "drawing", 46, 32};
   ui::Value lblvalorec1{drawing, "lblvalorec1"};
   ui::Value lblvalorec2{drawing, "lblvalorec2"};
   ui::Value lblvaloreuscita{drawing, "lblvaloreuscita"};
@@ -55,30 +55,31 @@ class frmduplicatori final : public ui::Calculator {
   void show_example() override { fill_in({"220", "150", "2", "50"}); }
 
  private:
-  static constexpr double top = 5;
-  static constexpr double bottom = 23;
-  static constexpr double output_x = 38;
-  static constexpr double load_x = 34;
+  static constexpr double top = 5.5;
+  static constexpr double bottom = 29.5;
+  static constexpr double load_x = 33;
+  static constexpr ui::Transformer mains{{4, 14.5}, ui::Transformer::Core::iron};
 
   void draw_full_wave() {
-    constexpr ui::Transformer mains{{4, 14}, ui::Transformer::Core::iron};
     constexpr double diodes_x = 11;
-    constexpr double capacitors_x = 22;
-    constexpr double middle = 14;
+    constexpr double capacitors_x = 19.5;
+    constexpr double input_y = mains.secondary_top.y;
+    constexpr double middle_y = mains.secondary_bottom.y;
     drawing.transformer(mains)
-        .wire({mains.secondary_top, {mains.secondary_top.x, 9}, {diodes_x, 9}})
-        .junction({diodes_x, 9})
-        .diode({diodes_x, 9}, {diodes_x, top})
+        .wire({mains.secondary_top, {diodes_x, input_y}})
+        .junction({diodes_x, input_y})
+        .diode({diodes_x, input_y}, {diodes_x, top})
         .named("D1", Side::right)
-        .diode({diodes_x, bottom}, {diodes_x, 9})
+        .wire({{diodes_x, input_y}, {diodes_x, middle_y}})
+        .diode({diodes_x, bottom}, {diodes_x, middle_y})
         .named("D2", Side::right)
-        .wire({mains.secondary_bottom, {mains.secondary_bottom.x, middle}, {capacitors_x, middle}})
-        .junction({capacitors_x, middle});
+        .wire({mains.secondary_bottom, {capacitors_x, middle_y}})
+        .junction({capacitors_x, middle_y});
     drawing.wire({{diodes_x, top}, {load_x, top}})
         .wire({{diodes_x, bottom}, {load_x, bottom}})
-        .electrolytic({capacitors_x, top}, {capacitors_x, middle})
+        .electrolytic({capacitors_x, top}, {capacitors_x, middle_y})
         .named("C1", lblvalorec1)
-        .electrolytic({capacitors_x, middle}, {capacitors_x, bottom})
+        .electrolytic({capacitors_x, middle_y}, {capacitors_x, bottom})
         .named("C2", lblvalorec2)
         .junction({capacitors_x, top})
         .junction({capacitors_x, bottom});
@@ -86,30 +87,30 @@ class frmduplicatori final : public ui::Calculator {
   }
 
   void draw_half_wave() {
-    constexpr ui::Transformer mains{{4, 14}, ui::Transformer::Core::iron};
-    constexpr double diode_x = 16;
-    constexpr double capacitor_x = 26;
+    constexpr double diode_x = 13;
+    constexpr double capacitor_x = 20;
     drawing.transformer(mains)
         .wire({mains.secondary_top, {mains.secondary_top.x, top}})
         .electrolytic({diode_x, top}, {mains.secondary_top.x, top})
-        .named("C1", lblvalorec1)
+        .named_beside("C1", lblvalorec1, Side::above)
         .junction({diode_x, top})
         .diode({diode_x, bottom}, {diode_x, top})
-        .named("D1", Side::right)
+        .named("D1", Side::left)
         .diode({diode_x, top}, {capacitor_x, top})
-        .named("D2", Side::above)
-        .junction({capacitor_x, top});
+        .named("D2", Side::above);
     drawing.wire({mains.secondary_bottom, {mains.secondary_bottom.x, bottom}, {load_x, bottom}})
         .wire({{capacitor_x, top}, {load_x, top}})
         .electrolytic({capacitor_x, top}, {capacitor_x, bottom})
         .named("C2", lblvalorec2)
         .junction({diode_x, bottom})
+        .junction({capacitor_x, top})
         .junction({capacitor_x, bottom});
     draw_load();
   }
 
   void draw_load() {
-    drawing.resistor({load_x, top}, {load_x, bottom}).named("RL", lblvaloreuscita);
+    drawing.resistor({load_x, top}, {load_x, bottom})
+        .named_beside("RL", lblvaloreuscita, Side::right);
   }
 
   void compute() override {

@@ -19,7 +19,7 @@ class frmshunt final : public ui::Calculator {
   ui::Result lblfilo{this, "lblfilo"};
   ui::Note Label1{this, "Label1",
                   "I FILI DELLO STRUMENTO VANNO COLLEGATI DIRETTAMENTE AI CAPI DELLO SHUNT"};
-  ui::Schematic drawing{this, "drawing", 40, 17};
+  ui::Schematic drawing{this, "drawing", 44, 17};
   ui::Value lblvaloreportata{drawing, "lblvaloreportata"};
   ui::Value lblvalorefondo{drawing, "lblvalorefondo"};
   ui::Value lblvalorerint{drawing, "lblvalorerint"};
@@ -39,11 +39,11 @@ class frmshunt final : public ui::Calculator {
   void draw() {
     constexpr double in = 2;
     constexpr double left = 11;
-    constexpr double right = 34;
-    constexpr double out = 38;
+    constexpr double right = 38;
+    constexpr double out = 42;
     constexpr double meter_y = 5;
     constexpr double shunt_y = 12;
-    constexpr double between = 21;
+    constexpr double between = 24;
     drawing.terminal({in, shunt_y})
         .wire({{in, shunt_y}, {left, shunt_y}})
         .arrow({in + 2, shunt_y - 1}, {left - 2, shunt_y - 1})

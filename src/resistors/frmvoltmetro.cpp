@@ -39,10 +39,10 @@ class frmvoltmetro final : public ui::Calculator {
 
  private:
   void draw() {
-    constexpr double in = 3;
-    constexpr double meter = 15;
-    constexpr double inner = 27;
-    constexpr double out = 40;
+    constexpr double in = 2.5;
+    constexpr double meter = 16.5;
+    constexpr double inner = 28;
+    constexpr double out = 40.5;
     constexpr double y = 4;
     constexpr double voltage_y = 12;
     drawing.terminal({in, y})

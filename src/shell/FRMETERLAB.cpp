@@ -1,5 +1,6 @@
 #include "shell/landscape.h"
 #include "shell/menu_catalogue.h"
+#include "shell/product.h"
 #include "ui/desktop.h"
 #include "ui/fixed_area.h"
 #include "ui/menu_bar.h"
@@ -18,8 +19,8 @@ constexpr ui::TwipsSize client_area{8505, 5910};
 // The start-up window: a blinking title over a picture, and the menu bar that opens all the others.
 class FRMETERLAB final : public ui::Window {
   ui::FixedArea background{this, "background", client_area, draw_landscape};
-  ui::Label lbltitolo{background, "lbltitolo", "ETERLAB", ui::tooltip("clicca per fermare")};
-  ui::Label LBLVERSIONE{background, "LBLVERSIONE", " vers. 2.13", ui::tooltip("maggio 2002")};
+  ui::Label lbltitolo{background, "lbltitolo", title, ui::tooltip("clicca per fermare")};
+  ui::Label LBLVERSIONE{background, "LBLVERSIONE", edition, ui::tooltip("maggio 2002")};
   ui::Label lblrisoluzione{background, "lblrisoluzione", "RISOLUZIONE 1280 x 1024"};
   ui::DoorButton cdmexit{background, "cdmexit", ui::tooltip("CHIUDI TUTTO")};
   ui::Timer Timer1{this, "Timer1"};

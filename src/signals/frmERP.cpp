@@ -28,7 +28,7 @@ class frmERP final : public ui::Calculator {
   ui::Result lblerp{this, "lblerp"};
   ui::Result lbleirp{this, "lbleirp"};
   ui::Result lbldbm{this, "lbldbm"};
-  ui::Schematic drawing{this, "drawing", 41, 20};
+  ui::Schematic drawing{this, "drawing", 42, 22};
   ui::Value lblvaloretx{drawing, "lblvaloretx"};
   ui::Value lblvaloreperdita{drawing, "lblvaloreperdita"};
   ui::Value lblvaloreantenna{drawing, "lblvaloreantenna"};
@@ -51,7 +51,7 @@ class frmERP final : public ui::Calculator {
  private:
   void draw() {
     using Side = ui::Schematic::Side;
-    constexpr double line_y = 14;
+    constexpr double line_y = 17;
     constexpr double transmitter_x = 9;
     constexpr double antenna_x = 30;
     drawing.box({1, line_y - 2}, {transmitter_x, line_y + 2})
@@ -59,9 +59,9 @@ class frmERP final : public ui::Calculator {
         .mark({(1 + transmitter_x) / 2, line_y}, "TX")
         .coaxial_cable({{transmitter_x, line_y}, {antenna_x - 1, line_y}})
         .named(lblvaloreperdita, Side::above)
-        .wire({{antenna_x - 1, line_y}, {antenna_x, line_y}, {antenna_x, line_y - 4}})
-        .label(lblvaloreantenna, {antenna_x, line_y}, Side::below)
-        .antenna({antenna_x, line_y - 4})
+        .wire({{antenna_x - 1, line_y}, {antenna_x, line_y}, {antenna_x, line_y - 7}})
+        .label(lblvaloreantenna, {antenna_x, line_y}, Side::right)
+        .antenna({antenna_x, line_y - 7})
         .named_beside("ERP", lblvaloreerp, Side::right);
   }
 

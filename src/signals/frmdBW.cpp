@@ -25,6 +25,7 @@ class frmdBW final : public ui::Calculator {
  public:
   frmdBW() : Calculator{"frmdBW", "CONVERSIONE TRA WATT, dBW E dBm", Computes::as_typed} {
     Option1.preset(0);
+    txtinput.prompt().reserve("POTENZA IN WATT :");
     lay_out(ui::column(ui::across(Option1), ui::form(txtinput), lblwatt, lbldbw, lbldbm, lblvolt));
     Option1.on_click([this](int index) { Option1_click(index); });
   }

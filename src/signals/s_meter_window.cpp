@@ -54,6 +54,7 @@ SMeterWindow::SMeterWindow(std::string_view name, std::string_view title, SMeter
     ++row;
   }
   Option1.preset(0);
+  txtinput.prompt().reserve(voltage_prompt);
   lay_out(ui::row(
       ui::column(Option1, ui::form(txtinput), lblsmeter, lbldbm, lblmicrovolt, ui::stretch()),
       table));

@@ -142,8 +142,9 @@ std::vector<Tick> Ruler::even_ticks(int texts) const {
   const double first = std::ceil(range_.from / step.value() - rounding_error);
   const double last = std::floor(range_.to / step.value() + rounding_error);
   std::vector<Tick> ticks;
-  for (double count = first; count <= last; ++count) {
-    ticks.push_back({step.times(count), tick_text(step.times(count))});
+  for (int i = 0; i <= static_cast<int>(last - first); ++i) {
+    const double value = step.times(first + i);
+    ticks.push_back({value, tick_text(value)});
   }
   return ticks;
 }

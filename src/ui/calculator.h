@@ -42,6 +42,8 @@ class Calculator : public Window {
   void check_ranges() const;
   void check_presence(Input& input) const;
   void check_range(Input& input) const;
+  /// Those that the user sees, in tab order.
+  [[nodiscard]] std::vector<Input*> shown_inputs() const;
 
   /// Unless this holds, the computation ends with a message and the focus in the box.
   void require(bool holds, QWidget& focus, std::string_view text) const;
@@ -73,8 +75,6 @@ class Calculator : public Window {
 
   void change();
   void calculate();
-  /// Those that the user sees, in tab order.
-  [[nodiscard]] std::vector<Input*> shown_inputs() const;
 
   bool is_live_;
   std::string message_title_ = "MESSAGGIO DI ERRORE";

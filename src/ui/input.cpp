@@ -4,6 +4,8 @@
 #include <limits>
 
 #include "common/leading_number.h"
+#include "common/number_text.h"
+#include "ui/text.h"
 
 namespace eterlab::ui {
 
@@ -19,10 +21,13 @@ std::string name_of_prompt(std::string_view box, const Input::Traits& traits) {
 Input::Input(Parent parent, std::string_view name, std::string_view prompt, const Traits& traits)
     : TextBox{parent, name, {traits.tooltip}},
       prompt_{std::make_unique<Label>(parent, name_of_prompt(name, traits), prompt)},
+      tip_{traits.tooltip},
       range_{traits.range},
       negative_{traits.negative},
+      tells_range_{traits.tells_range},
       is_optional_{traits.is_optional} {
   prompt_->set_prompt_of(*this);
+  tell_range();
   *this = traits.holds;
 }
 
@@ -59,7 +64,15 @@ void Input::ask(std::string_view prompt) {
 
 void Input::ask(std::string_view prompt, Range range) {
   range_ = range;
+  tell_range();
   ask(prompt);
+}
+
+void Input::tell_range() {
+  if (tells_range_) {
+    const Range limits = range();
+    setToolTip(to_qt("da " + as_typed(limits.lowest) + " a " + as_typed(limits.highest) + tip_));
+  }
 }
 
 void Input::hide() {

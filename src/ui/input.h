@@ -27,6 +27,8 @@ class Input final : public TextBox {
     std::string_view holds = {};  ///< at opening
     /// Unless told, the widest one; of an optional box it begins at 0.
     std::optional<Range> range = {};
+    /// The tooltip begins with the range: "da 0.01 a 1000".
+    bool tells_range = false;
     /// A required number must be above zero or, where its range goes below, just be there. An
     /// optional box counts as 0 when it is empty.
     bool is_optional = false;
@@ -62,9 +64,13 @@ class Input final : public TextBox {
   [[nodiscard]] Label& prompt() const { return *prompt_; }
 
  private:
+  void tell_range();
+
   std::unique_ptr<Label> prompt_;
+  std::string tip_;
   std::optional<Range> range_;
   std::string negative_;
+  bool tells_range_;
   bool is_optional_;
 };
 

@@ -73,7 +73,7 @@ Item stretch();
 struct Field {
   Label* prompt;
   QWidget* value;
-  Label* unit;
+  QWidget* unit;  ///< or what else stands behind the value
 };
 /// A box with its prompt, which also names it for screen readers, and perhaps its unit.
 Field field(Label& prompt, TextBox& box);

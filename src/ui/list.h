@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QSignalBlocker>
 #include <initializer_list>
 #include <memory>
 #include <span>
@@ -26,16 +27,18 @@ class List final : public QComboBox {
   operator Field() const { return {prompt_.get(), const_cast<List*>(this), nullptr}; }
 
   void add(std::string_view entry);
-  /// Every entry of a catalogue.
+  /// The entries of a catalogue by their names, in place of what was listed. No handler runs.
   template <class Catalogue>
-  void add_names_of(const Catalogue& catalogue) {
+  void offer(const Catalogue& catalogue) {
+    const QSignalBlocker quiet{this};
+    clear();
     for (const auto& entry : catalogue) {
       add(entry.name);
     }
   }
   /// The place of the chosen entry, from 0.
   [[nodiscard]] int chosen() const { return currentIndex(); }
-  /// The entry chosen of the catalogue that is listed.
+  /// The entry chosen, of the catalogue that is listed.
   template <class Entry>
   [[nodiscard]] const Entry& chosen_of(std::span<const Entry> catalogue) const {
     return catalogue[static_cast<std::size_t>(chosen())];

@@ -1,7 +1,11 @@
 #include "ui/result_table.h"
 
+#include <QEvent>
+#include <QFontMetrics>
 #include <QGridLayout>
+#include <algorithm>
 #include <string>
+#include <utility>
 
 #include "ui/text.h"
 #include "ui/theme.h"
@@ -18,6 +22,14 @@ class Cell : public Label {
     setAlignment((is_text ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
   }
   using Label::operator=;
+
+  /// Columns keep their width whichever row is marked.
+  [[nodiscard]] QSize sizeHint() const override {
+    QFont bold = font();
+    bold.setBold(true);
+    return Label::sizeHint().expandedTo(
+        QFontMetrics{bold}.boundingRect({}, Qt::AlignLeft, text()).size());
+  }
 };
 
 class ResultCell final : public Cell, public Blankable {
@@ -73,25 +85,37 @@ void ResultTable::reserve(int column, std::string_view longest_text) const {
   at(0, column).reserve(longest_text);
 }
 
-void ResultTable::mark(int row) {
-  for (const int changed : {marked_, row}) {
-    for (int column = 0; changed >= 0 && column < columns_; ++column) {
-      QFont font = theme::font_of(Label::Role::cell);
-      font.setBold(changed == row);
-      at(changed, column).setFont(font);
+void ResultTable::mark(const std::vector<int>& rows) {
+  const std::vector<int> before = std::exchange(marked_, rows);
+  for (int row = 0; row < rows_; ++row) {
+    const bool was_marked = std::ranges::find(before, row) != before.end();
+    if (was_marked == is_marked(row)) {
+      continue;
     }
-  }
-  const int before = marked_;
-  marked_ = row;
-  for (const int changed : {before, row}) {
-    if (changed >= 0) {
-      describe(changed);
+    QFont font = theme::font_of(Label::Role::cell);
+    font.setBold(is_marked(row));
+    for (int column = 0; column < columns_; ++column) {
+      at(row, column).setFont(font);
     }
+    describe(row);
   }
+}
+
+bool ResultTable::is_marked(int row) const {
+  return std::ranges::find(marked_, row) != marked_.end();
 }
 
 void ResultTable::add_behind(int row, QWidget& widget) {
   grid_->addWidget(&widget, row + 1, columns_);
+}
+
+bool ResultTable::event(QEvent* event) {
+  if (event->type() == QEvent::LayoutRequest) {  // cells have new texts
+    for (int row = 0; row < rows_; ++row) {
+      describe(row);
+    }
+  }
+  return QWidget::event(event);
 }
 
 void ResultTable::describe(int row) const {
@@ -102,7 +126,7 @@ void ResultTable::describe(int row) const {
     }
     at(row, column)
         .setAccessibleDescription(
-            (row == marked_ ? description + ", riga evidenziata" : description).trimmed());
+            (is_marked(row) ? description + ", riga evidenziata" : description).trimmed());
   }
 }
 

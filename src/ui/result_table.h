@@ -14,7 +14,7 @@ class QGridLayout;
 
 namespace eterlab::ui {
 
-/// Rows of texts under the heads of their columns, in which a row can be marked. Screen readers are
+/// Rows of texts under the heads of their columns, in which rows can be marked. Screen readers are
 /// told the head of the column with each cell, and the text in the row's first one.
 class ResultTable final : public QWidget {
  public:
@@ -38,19 +38,24 @@ class ResultTable final : public QWidget {
   /// Keeps room for this text in a column.
   void reserve(int column, std::string_view longest_text) const;
 
-  /// One row at most stands out; none for -1.
-  void mark(int row);
-  [[nodiscard]] int marked() const { return marked_; }
+  /// These rows stand out, and no other ones.
+  void mark(const std::vector<int>& rows);
+  /// One of them; none for -1.
+  void mark(int row) { mark(row < 0 ? std::vector<int>{} : std::vector<int>{row}); }
 
   /// Puts something beside the last cell of a row, such as a patch of colour.
   void add_behind(int row, QWidget& widget);
 
+ protected:
+  bool event(QEvent* event) override;
+
  private:
+  [[nodiscard]] bool is_marked(int row) const;
   void describe(int row) const;
 
   int rows_;
   int columns_;
-  int marked_ = -1;
+  std::vector<int> marked_;
   QGridLayout* grid_;
   std::vector<std::unique_ptr<Label>> heads_;
   std::vector<std::unique_ptr<Label>> cells_;

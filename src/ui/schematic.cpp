@@ -109,8 +109,13 @@ Schematic& Schematic::dimension(At from, At to) {
   return *this;
 }
 
-Schematic& Schematic::arrow(At from, At to) {
+Schematic& Schematic::extension(At from, At to) {
   line(Look::thin_line, {from, to});
+  return *this;
+}
+
+Schematic& Schematic::arrow(At from, At to) {
+  extension(from, to);
   arrow_head(from, to);
   return *this;
 }
@@ -185,41 +190,51 @@ Schematic& Schematic::shaded_ring(At centre, double inner_radius, double outer_r
   return circle(centre, inner_radius).circle(centre, outer_radius);
 }
 
-Schematic& Schematic::part(At from, At to, const Symbol& drawn) {
+Schematic& Schematic::shaded_frame(At top_left, At bottom_right, double thickness) {
+  const QRectF room{point(top_left), point(bottom_right)};
+  const QRectF outside = room.adjusted(-thickness, -thickness, thickness, thickness);
+  QPainterPath wall;
+  wall.addRect(outside);
+  wall.addRect(room);  // a hole, by the odd-even rule
+  shapes_.add(Look::tint, Fit::grid, wall);
+  return box(at(outside.topLeft()), at(outside.bottomRight())).box(top_left, bottom_right);
+}
+
+Schematic& Schematic::part(At from, At to, const Symbol& symbol) {
   const QPointF middle = (point(from) + point(to)) / 2;
   const QTransform turned = towards(from, to);
-  symbol(at(middle), drawn, turned);
-  lead(from, middle, turned.map(QPointF{-drawn.half, 0}));
-  lead(to, middle, turned.map(QPointF{drawn.half, 0}));
+  add(at(middle), symbol, turned);
+  lead(from, middle, turned.map(QPointF{-symbol.half, 0}));
+  lead(to, middle, turned.map(QPointF{symbol.half, 0}));
   last_part_.is_vertical = std::abs(to.y - from.y) > std::abs(to.x - from.x);
   return *this;
 }
 
-Schematic& Schematic::part(At from, At to, const Symbol& drawn, const Symbol& upright) {
-  part(from, to, drawn);
+Schematic& Schematic::part(At from, At to, const Symbol& symbol, const Symbol& upright) {
+  part(from, to, symbol);
   const Part part = last_part_;
-  symbol(part.middle, upright);
+  add(part.middle, upright);
   last_part_ = {part.room | last_part_.room, part.middle, part.is_vertical};
   return *this;
 }
 
-Schematic& Schematic::symbol(At place, const Symbol& drawn, const QTransform& turned) {
-  const auto add = [&](Look look, Fit fit, const QPainterPath& path) {
+Schematic& Schematic::add(At place, const Symbol& symbol, const QTransform& turned) {
+  const auto add_path = [&](Look look, Fit fit, const QPainterPath& path) {
     if (!path.isEmpty()) {
       shapes_.add(look, fit, turned.map(path), point(place));
     }
   };
-  add(Look::line, Fit::symbol, drawn.straight);
-  add(Look::line, Fit::exact, drawn.curved);
-  add(Look::solid, Fit::exact, drawn.solid);
-  const QRectF room = turned.mapRect(drawn.room()).translated(point(place));
+  add_path(Look::line, Fit::symbol, symbol.straight);
+  add_path(Look::line, Fit::exact, symbol.curved);
+  add_path(Look::solid, Fit::exact, symbol.solid);
+  const QRectF room = turned.mapRect(symbol.room()).translated(point(place));
   last_part_ = {room, place, room.height() > room.width()};
   return *this;
 }
 
-Schematic& Schematic::symbol(At place, const Symbol& drawn, Flip flip) {
+Schematic& Schematic::add(At place, const Symbol& symbol, Flip flip) {
   const At scale = beside({}, 1, 1, flip);
-  return symbol(place, drawn, QTransform::fromScale(scale.x, scale.y));
+  return add(place, symbol, QTransform::fromScale(scale.x, scale.y));
 }
 
 void Schematic::lead(At from, QPointF symbol, QPointF edge) {
@@ -322,30 +337,30 @@ Schematic& Schematic::coaxial_cable(const CoaxialCable& cable) {
 }
 
 Schematic& Schematic::npn(const Transistor& transistor) {
-  return symbol(transistor.place, symbols::npn(), transistor.flip);
+  return add(transistor.place, symbols::npn(), transistor.flip);
 }
 
 Schematic& Schematic::pnp(const Transistor& transistor) {
-  return symbol(transistor.place, symbols::pnp(), transistor.flip);
+  return add(transistor.place, symbols::pnp(), transistor.flip);
 }
 
 Schematic& Schematic::triode(const Triode& triode) {
-  return symbol(triode.place, symbols::triode(), triode.flip);
+  return add(triode.place, symbols::triode(), triode.flip);
 }
 
 Schematic& Schematic::pentode(const Pentode& pentode) {
-  return symbol(pentode.place, symbols::pentode(), pentode.flip);
+  return add(pentode.place, symbols::pentode(), pentode.flip);
 }
 
 Schematic& Schematic::operational_amplifier(const OperationalAmplifier& amplifier) {
-  return symbol(amplifier.place, symbols::operational_amplifier(), amplifier.flip);
+  return add(amplifier.place, symbols::operational_amplifier(), amplifier.flip);
 }
 
 Schematic& Schematic::transformer(const Transformer& transformer) {
-  return symbol(transformer.place, symbols::transformer(transformer));
+  return add(transformer.place, symbols::transformer(transformer));
 }
 
-Schematic& Schematic::antenna(At foot) { return symbol(foot, symbols::antenna()); }
+Schematic& Schematic::antenna(At foot) { return add(foot, symbols::antenna()); }
 
 Schematic& Schematic::ground(At place) {
   constexpr double stem = 0.8;

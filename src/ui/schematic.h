@@ -32,6 +32,8 @@ class Schematic final : public QWidget {
   Schematic& rod(const std::vector<At>& corners);
   /// Thin, with an arrow head at both ends: tells what a length is measured between.
   Schematic& dimension(At from, At to);
+  /// Thin: from the end of what is measured to a dimension.
+  Schematic& extension(At from, At to);
   /// Thin, with an arrow head at its end.
   Schematic& arrow(At from, At to);
   Schematic& circle(At centre, double radius);
@@ -46,6 +48,8 @@ class Schematic final : public QWidget {
   Schematic& shaded_box(At top_left, At bottom_right);
   Schematic& shaded_circle(At centre, double radius);
   Schematic& shaded_ring(At centre, double inner_radius, double outer_radius);
+  /// A wall of a thickness around a room.
+  Schematic& shaded_frame(At top_left, At bottom_right, double thickness);
 
   // Two-terminal parts, in the middle of their wires
   Schematic& resistor(At from, At to);
@@ -161,8 +165,8 @@ class Schematic final : public QWidget {
   /// Draws a symbol in the middle of its two wires.
   Schematic& part(At from, At to, const Symbol& symbol);
   Schematic& part(At from, At to, const Symbol& symbol, const Symbol& upright);
-  Schematic& symbol(At place, const Symbol& symbol, const QTransform& turned);
-  Schematic& symbol(At place, const Symbol& symbol, Flip flip = Flip::none);
+  Schematic& add(At place, const Symbol& symbol, const QTransform& turned);
+  Schematic& add(At place, const Symbol& symbol, Flip flip = Flip::none);
   /// The wire to a symbol with its middle at a place, and an edge seen from there.
   void lead(At from, QPointF symbol, QPointF edge);
   void line(Shapes::Look look, const std::vector<At>& corners);

@@ -5,7 +5,6 @@
 #include <QPalette>
 #include <QTransform>
 #include <cmath>
-#include <utility>
 
 #include "ui/theme.h"
 
@@ -87,8 +86,8 @@ class Pixels {
 
 double grid_step() { return theme::spacing() / 2.0; }
 
-void Shapes::add(Look look, Fit fit, QPainterPath path, QPointF place) {
-  shapes_[static_cast<std::size_t>(look)].push_back({place, std::move(path), fit});
+void Shapes::add(Look look, Fit fit, const QPainterPath& path, QPointF place) {
+  shapes_[static_cast<std::size_t>(look)].push_back({place, path, fit});
 }
 
 void Shapes::clear() {

@@ -58,7 +58,7 @@ class Shapes {
 
   /// Adds a path, seen from a place. Each line is best a path of its own: to paint many as one
   /// takes the toolkit far longer.
-  void add(Look look, Fit fit, QPainterPath path, QPointF place = {});
+  void add(Look look, Fit fit, const QPainterPath& path, QPointF place = {});
   void clear();
   /// From the corner of the widget or picture that is painted on.
   void paint(QPainter& painter, const QPalette& palette) const;

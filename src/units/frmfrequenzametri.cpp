@@ -27,6 +27,7 @@ class frmfrequenzametri final : public ui::Calculator {
       : Calculator{"frmfrequenzametri", "FREQUENZA, LUNGHEZZA D'ONDA, PULSAZIONE E PERIODO",
                    Computes::as_typed} {
     Option1.preset(0);
+    txtinput.prompt().reserve("PULSAZIONE/SECONDO :");
     lay_out(ui::column(ui::across(Option1), ui::form(txtinput), lblmetri, lblfrequenza,
                        lblpulsazione, lblperiodo));
     Option1.on_click([this](int index) { Option1_click(index); });

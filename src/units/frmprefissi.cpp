@@ -53,10 +53,11 @@ class frmprefissi final : public ui::Calculator {
                          {"lblsimbolo", "SIMBOLO", ui::ResultTable::Kind::text},
                          {"lblfattore", "FATTORE", ui::ResultTable::Kind::text},
                          {"lblnumero", "NUMERO", ui::ResultTable::Kind::number}}};
-  ui::Input txtinput{this, "txtinput", "NUMERO CON PREFISSO", {.range = ui::Range{-1e12, 1e12}}};
-  ui::List cmbda{this, "cmbda", "DAL PREFISSO"};
-  ui::List cmba{this, "cmba", "AL PREFISSO"};
-  ui::Result lbloutput{this, "lbloutput"};
+  ui::Frame Frame1{this, "Frame1", "DA UN PREFISSO ALL'ALTRO"};
+  ui::Input txtinput{Frame1, "txtinput", "NUMERO CON PREFISSO", {.range = ui::Range{-1e12, 1e12}}};
+  ui::List cmbda{Frame1, "cmbda", "DAL PREFISSO"};
+  ui::List cmba{Frame1, "cmba", "AL PREFISSO"};
+  ui::Result lbloutput{Frame1, "lbloutput"};
 
   /// In the order of the lists.
   std::vector<int> exponents_;
@@ -72,7 +73,9 @@ class frmprefissi final : public ui::Calculator {
       ++row;
     }
     add_to_lists();
-    lay_out(ui::row(table, ui::column(ui::form(txtinput, cmbda, cmba), lbloutput, ui::stretch())));
+    lay_out(ui::row(
+        table, ui::column(Frame1.arrange(ui::column(ui::form(txtinput, cmbda, cmba), lbloutput)),
+                          ui::stretch())));
   }
 
   void show_example() override {

@@ -32,16 +32,16 @@ class frmradianti final : public ui::Calculator {
   ui::Result lblradianti{this, "lblradianti"};
   ui::Result lblcentesimali{this, "lblcentesimali"};
   ui::Result lblgiri{this, "lblgiri"};
-  ui::Schematic drawing{this, "drawing", 30, 33};
+  ui::Schematic drawing{this, "drawing", 32, 32};
   ui::Value lblvaloreseno{drawing, "lblvaloreseno"};
   ui::Value lblvalorecoseno{drawing, "lblvalorecoseno"};
 
  public:
   frmradianti() : Calculator{"frmradianti", "CONVERSIONE DI ANGOLI", Computes::as_typed} {
     Option1.preset(0);
-    lay_out(ui::row(ui::column(Option1, ui::form(txtinput), lblgradi, lblsessagesimali, lblradianti,
-                               lblcentesimali, lblgiri, ui::stretch()),
-                    drawing));
+    txtinput.prompt().reserve("GRADI CENTESIMALI :");
+    lay_out(ui::column(ui::row(ui::column(Option1, ui::form(txtinput), ui::stretch()), drawing),
+                       lblgradi, lblsessagesimali, lblradianti, lblcentesimali, lblgiri));
     Option1.on_click([this](int index) { Option1_click(index); });
   }
 
@@ -69,7 +69,7 @@ class frmradianti final : public ui::Calculator {
     draw_angle(within_a_turn(angle));
   }
 
-  static constexpr ui::At centre{15, 14};
+  static constexpr ui::At centre{16, 14};
   static constexpr double radius = 11;
 
   void draw_circle() {
@@ -101,11 +101,11 @@ class frmradianti final : public ui::Calculator {
               sine < 0 ? Side::above : Side::below)
         .mark({centre.x, centre.y - std::copysign(along_y, sine.value())}, "sen",
               cosine < 0 ? Side::right : Side::left);
-    constexpr double values_y = centre.y + radius + 5;
-    drawing.mark({2, values_y}, "sen =", Side::right)
-        .label(lblvaloreseno, {6, values_y}, Side::right)
-        .mark({16, values_y}, "cos =", Side::right)
-        .label(lblvalorecoseno, {20, values_y}, Side::right);
+    constexpr double values_y = centre.y + radius + 4;
+    drawing.mark({centre.x - 9, values_y}, "sen =", Side::left)
+        .label(lblvaloreseno, {centre.x - 9, values_y}, Side::right)
+        .mark({centre.x + 7, values_y}, "cos =", Side::left)
+        .label(lblvalorecoseno, {centre.x + 7, values_y}, Side::right);
     lblvaloreseno = fixed(sine, 4);
     lblvalorecoseno = fixed(cosine, 4);
   }

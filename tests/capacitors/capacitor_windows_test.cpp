@@ -46,6 +46,51 @@ TEST_F(frmcondensatori, WhatCountsIsAddedAndDrawnAsTyped) {
   EXPECT_EQ(results(), "IN SERIE = 193,9 \u00b5F|IN PARALLELO = 800 \u00b5F");
 }
 
+using frmripple = FormTest;
+
+// C = I t1 / dU by hand with t1 = 8.565 ms, 18.989 ms; the last one has t1 = 2 / 3 T exactly.
+TEST_F(frmripple, TheCapacitorOfABridgeAndOfOneDiode) {
+  use("mnuripple", "Option1 txtvolt txtcorrente txtripple txtfrequenza",
+      "lblcapacita lblcommerciale lblpicco lblmedia lblripple lbllavoro");
+  EXPECT_EQ(window.text("txtfrequenza"), "50");
+  const char* const table[][7] = {
+      {"0|12|1000|10|50", "5500 \u00b5F", "6800 \u00b5F", "15,6", "14,8",
+       "1,557 V picco picco, 449,5 mV", "25 Volt"},
+      {"1|250|30|5|50", "32,29 \u00b5F", "33 \u00b5F", "352,9", "344,0",
+       "17,64 V picco picco, 5,093 V", "450 Volt"},
+      {"0|1000|1|50|60", "7,865 nF", "10 nF", "1.412,8", "1.059,6", "706,4 V picco picco, 203,9 V",
+       "OLTRE 1000 Volt"},
+  };
+  for (const auto& [typed, least, standard, peak, mean, ripple, working] : table) {
+    expect(typed, std::string{"CAPACITA' MINIMA = "} + least + "|VALORE COMMERCIALE = " + standard +
+                      "|TENSIONE A VUOTO = " + peak +
+                      " Volt|TENSIONE MEDIA CON IL CARICO = " + mean + " Volt|RIPPLE = " + ripple +
+                      " efficaci|TENSIONE DI LAVORO = " + working);
+  }
+}
+
+TEST_F(frmripple, TheVoltageMustOpenTheDiodesOfTheCircuit) {
+  use("mnuripple", "Option1 txtvolt txtcorrente txtripple txtfrequenza", "lblpicco");
+  const char* const too_low = "TENSIONE TROPPO BASSA PER I DIODI";
+  expect_refusal("0|12|1000|60|50", "txtripple", "IL RIPPLE NON PUO' SUPERARE IL 50 %");
+  expect_refusal("0|0.5|1000|50.1|50", "txtripple", "IL RIPPLE NON PUO' SUPERARE IL 50 %");
+  expect_refusal("0|12|1000|60|", "txtfrequenza");
+  expect_refusal("0|0.98|1000|10|50", "txtvolt", too_low);
+  expect("1|0.98|1000|10|50", "TENSIONE A VUOTO = 0,7 Volt");
+  expect_refusal("1|0.49|1000|10|50", "txtvolt", too_low);
+}
+
+TEST_F(frmripple, AnyNumbersInTheirRangesCanBePlotted) {
+  use("mnuripple", "Option1 txtvolt txtcorrente txtripple txtfrequenza", "lblcommerciale");
+  for (const char* const typed :
+       {"0|1e12|1e12|1e-12|1e-12", "1|1e12|1e-12|50|1e12", "0|0.99|1e-12|1e-12|1e12"}) {
+    enter(typed);
+    EXPECT_NE(results(), "") << typed;
+    EXPECT_EQ(boxes(), Boxes{});
+    WindowTest::settle();
+  }
+}
+
 using frmelettrononpolarizzati = FormTest;
 
 // X = 1 / (2 pi 50 Hz 11 uF) = 289.37 ohm; 1.2 x the peaks is 20.4 V and 1018 V.

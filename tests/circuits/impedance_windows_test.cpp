@@ -1,4 +1,5 @@
 #include "support/form_test.h"
+#include "ui/plot.h"
 
 // Where no other source is told, results come from the nodal equations in 60 decimal digits.
 
@@ -184,6 +185,58 @@ TEST_F(frmRLC, ResonatesUnlessTheCoilIsTooLossy) {
          "IMPEDENZA = 1,001 kOhm|FASE = 0,0 GRADI|Z = 1001 - j 0,03104 Ohm|RISUONA A 7,118 kHz|"
          "IMPEDENZA ALLA RISONANZA = 1 kOhm");
   expect_refusal("5|5|10|0", "txtcapacita");
+}
+
+const char* const tank_boxes = "txtfrequenza txtinduttanza txtcapacita txtohm";
+const char* const tank_results = "lblmodulo lblfase lblcomplessa lblrisonanza lblq lblbanda";
+
+/// What the curve tells of the frequency that is marked or, where that is not on it, of resonance.
+std::string plotted(const Driven& window) {
+  auto& plot = dynamic_cast<ui::Plot&>(window.control("plot"));
+  window.control("txtohm").setFocus();
+  plot.setFocus();
+  return plot.readout();
+}
+
+using frmRLCparallelo = FormTest;
+
+TEST_F(frmRLCparallelo, ImpedanceSelectivityAndCurve) {
+  use("mnuparallLCR", tank_boxes, tank_results);
+  expect("5|10|100|10",
+         "IMPEDENZA = 10 Ohm|FASE = 0,0 GRADI|Z = 10 + j 0,004151 Ohm|"
+         "FREQUENZA DI RISONANZA = 5,033 MHz|Q = 0,03162|BANDA PASSANTE = 159,2 MHz");
+  expect("5|10|100|1e12",
+         "IMPEDENZA = 24,09 kOhm|FASE = 90,0 GRADI|Z = 0,0005805 + j 24090 Ohm|"
+         "FREQUENZA DI RISONANZA = 5,033 MHz|Q = 3162000000|BANDA PASSANTE = 1,592 mHz");
+  expect("5|10|100|10000",
+         "IMPEDENZA = 9,236 kOhm|FASE = 22,5 GRADI|Z = 8530 + j 3541 Ohm|"
+         "FREQUENZA DI RISONANZA = 5,033 MHz|Q = 31,62|BANDA PASSANTE = 159,2 kHz");
+  EXPECT_EQ(window.text("lblvaloref lblvalorel lblvalorec lblvalorer"),
+            "5 MHz|10 µH|100 pF|10 kOhm");
+  EXPECT_EQ(plotted(window), "5 MHz ; 9,236 kOhm");
+  enter("1.6|10|100|10000");
+  EXPECT_EQ(plotted(window), "5,033 MHz ; 10 kOhm");
+  expect_refusal("5|10|100|0", "txtohm");
+}
+
+using frmRLCserie = FormTest;
+
+TEST_F(frmRLCserie, ImpedanceSelectivityAndCurve) {
+  use("mnuserieLCR", tank_boxes, tank_results);
+  expect("5|10|100|10000",
+         "IMPEDENZA = 10 kOhm|FASE = 0,0 GRADI|Z = 10000 - j 4,151 Ohm|"
+         "FREQUENZA DI RISONANZA = 5,033 MHz|Q = 0,03162|BANDA PASSANTE = 159,2 MHz");
+  expect("5|10|100|1e-12",
+         "IMPEDENZA = 4,151 Ohm|FASE = -90,0 GRADI|Z = 0 - j 4,151 Ohm|"
+         "FREQUENZA DI RISONANZA = 5,033 MHz|Q = 316200000000000|BANDA PASSANTE = 15,92 nHz");
+  expect("5|10|100|10",
+         "IMPEDENZA = 10,83 Ohm|FASE = -22,5 GRADI|Z = 10 - j 4,151 Ohm|"
+         "FREQUENZA DI RISONANZA = 5,033 MHz|Q = 31,62|BANDA PASSANTE = 159,2 kHz");
+  EXPECT_EQ(plotted(window), "5 MHz ; 10,83 Ohm");
+  enter("16|10|100|10");
+  EXPECT_EQ(plotted(window), "5,033 MHz ; 10 Ohm");
+  expect_refusal("5|10|100|0", "txtohm");
+  EXPECT_EQ(plotted(window), "");
 }
 
 using frmRLR = FormTest;

@@ -87,6 +87,7 @@ TEST(Real, HasTheFunctionsOfPlainNumbers) {
       {"cosh", cosh(1.5), 2.3524096152432473258},
       {"tanh", tanh(1.5), 0.90514825364486643824},
       {"tanh of much", tanh(1000), 1},
+      {"asinh", asinh(-1e10), -23.718998110500402149},
       {"ceil", ceil(2.1), 3},
       {"ceil of a negative number", ceil(-2.9), -2},
       {"round", round(2.5), 3},

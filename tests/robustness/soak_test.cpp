@@ -84,7 +84,11 @@ TEST_P(Soak, OpeningsLeaveNothingBehind) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Windows, Soak, ::testing::ValuesIn(ui::registry::names()),
-                         [](const auto& window) { return window.param; });
+                         [](const auto& window) {
+                           std::string name = window.param;
+                           std::erase_if(name, [](char c) { return (c & 0x80) != 0; });
+                           return name;
+                         });
 
 }  // namespace
 }  // namespace eterlab::test

@@ -1,5 +1,6 @@
 #include <QAction>
 #include <QComboBox>
+#include <QFile>
 #include <QIcon>
 #include <QMenu>
 #include <QMenuBar>
@@ -124,13 +125,33 @@ TEST_F(FRMETERLAB, EveryEntryIsReachedByArrowKeys) {
   EXPECT_EQ(reached, static_cast<int>(shell::menu_catalogue().size()));
 }
 
-TEST_F(FRMETERLAB, AnEntryWithoutAWindowSaysSoAndClosingItLeavesTheOthersOpen) {
-  window.window().findChild<QAction*>("mnuinfo")->trigger();
-  EXPECT_EQ(boxes(), Boxes{"MESSAGGIO DI AVVISO: FINESTRA NON ANCORA DISPONIBILE"});
+TEST_F(FRMETERLAB, ClosingItLeavesTheOthersOpen) {
   choose("mnuvoltwatt");
   window.click("cdmexit");
   EXPECT_FALSE(is_open("FRMETERLAB"));
   EXPECT_TRUE(is_open("frmvoltwatt"));
+}
+
+using frmabaut = WindowTest;
+
+TEST_F(frmabaut, TellsNameVersionAndLicenceAsTheMainWindowAndTheProjectDo) {
+  const std::string told_by_main_window = main_window().text("lbltitolo LBLVERSIONE");
+  const Driven window = choose("mnuinfo");
+  EXPECT_EQ(window.text("lbltitolo lblversione"), told_by_main_window);
+  const std::string of_program = window.text("lbltesto_5");
+  for (const std::string known : {ETERLAB_VERSION, qVersion(), "MIT License"}) {
+    EXPECT_NE(of_program.find(known), std::string::npos) << of_program;
+  }
+  window.click("cmdlicenza");
+  EXPECT_EQ(window.shown("lbltesto_0 lbltesto_5 lbllicenza"), "lbllicenza");
+  QFile file{ETERLAB_LICENCE};
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_EQ(ui::to_qt(window.text("lbllicenza")).simplified(),
+            QString::fromUtf8(file.readAll()).simplified());
+  window.click("cmdlicenza");
+  EXPECT_EQ(window.shown("lbltesto_0 lbltesto_5 lbllicenza"), "lbltesto_0 lbltesto_5");
+  window.click("cmdchiudi");
+  EXPECT_FALSE(is_open("frmabaut"));
 }
 
 using frmavvertenza = WindowTest;

@@ -127,6 +127,7 @@ TEST_F(Calculators, MarkARowToTheEyeAndToTheEar) {
   const QWidget& marked = window.control("lblpart_1");
   EXPECT_TRUE(marked.font().bold());
   EXPECT_EQ(marked.accessibleDescription(), "PART, riga evidenziata");
+  EXPECT_EQ(window.control("lblpart_0").accessibleDescription(), "one PART");
   enter("FIRST|1|2|3");
   EXPECT_FALSE(marked.font().bold());
   EXPECT_EQ(marked.accessibleDescription(), "PART");

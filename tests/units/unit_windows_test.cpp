@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QScreen>
 
+#include "common/regional_settings.h"
 #include "support/form_test.h"
 
 namespace eterlab::test {
@@ -46,6 +47,48 @@ TEST_F(frmmils, BothWaysWhereAnOptionStartsAfresh) {
   expect_end("1e307");
 }
 
+using frmmisureinglesi = FormTest;
+
+TEST_F(frmmisureinglesi, LengthsInEveryUnit) {
+  use("mnumisureInglesi", "cmbunita txtinput",
+      "lblvalore_0 lblvalore_1 lblvalore_2 lblvalore_3 lblvalore_4 lblvalore_5 lblvalore_6 "
+      "lblvalore_7 lblvalore_8");
+  EXPECT_EQ(window.text("cmbunita lblunita_4"), "POLLICI|MIGLIA NAUTICHE");
+  expect("POLLICI|5.5",
+         "5,5|0,45833333|0,15277778|8,6805556E-05|7,5431965E-05|139,7|13,97|0,1397|0,0001397");
+  // The other unit computes at once; 66 feet to a chain.
+  window.type("cmbunita", "IARDE");
+  window.type("txtinput", "22");
+  EXPECT_EQ(window.text("lblvalore_1 lblvalore_7"), "66|20,1168");
+  window.type("cmbunita", "METRI");
+  EXPECT_EQ(window.text("lblvalore_2 lblvalore_6"), "24,059493|2200");
+  EXPECT_TRUE(window.control("lblvalore_7").font().bold());
+  for (const char* typed : {"METRI|0", "METRI|-1", "METRI|1.1e15", "METRI|1e-13"}) {
+    expect(typed, "||||||||");
+  }
+  expect("METRI|1e15",
+         "3,9370079E+16|3,2808399E+15|1,0936133E+15|621371190000|539956800000|1E+18|1E+17|"
+         "1E+15|1000000000000");
+}
+
+using frmaltreconversioni = FormTest;
+
+TEST_F(frmaltreconversioni, OtherQuantities) {
+  choose("mnumisureInglesi").click("cmdaltreconversioni");
+  use_opened(driven("frmaltreconversioni"), "cmbgrandezza cmbunita txtinput",
+             "lblvalore_0 lblvalore_1 lblvalore_2 lblvalore_3 lblvalore_4");
+  EXPECT_EQ(window.text("cmbgrandezza cmbunita lblunita_2"), "PESO|ONCE|GRANI");
+  expect("PESO|ONCE|10", "10|0,625|4375|283,4952|0,2834952");
+  window.type("cmbgrandezza", "VOLUME");
+  EXPECT_EQ(window.text("cmbunita txtinput lblunita_0 lblvalore_0"), "POLLICI CUBI||POLLICI CUBI|");
+  expect("VOLUME|GALLONI U.S.A.|0", "||||");
+  expect("VOLUME|GALLONI U.S.A.|1", "231|6,661393|0,8326742|1|3,785412");
+  expect("SUPERFICIE|ACRI|1", "6272640|43560|1|40468560|4046,856");
+  expect("PRESSIONE|ATMOSFERE|1", "14,69595|29,92125|1,01325|1|101325");
+  expect("POTENZA|HORSEPOWER|1", "1|1,01387|2544,434|745,6999|0,7456999");
+  expect("VELOCITA'|NODI|1", "1,150779|1|1,68781|1,852|0,5144444");
+}
+
 using LocatorWindows = FormTest;
 
 // Computed apart from this code, in double precision with the latitude packed to four bytes.
@@ -89,6 +132,93 @@ TEST_F(LocatorWindows, StandInTheMiddleOfTheScreenAndComeForwardTogether) {
   choose("mnucoordinate");
   EXPECT_TRUE(is_open("frmwwl"));
   EXPECT_TRUE(driven("frmcoordinate").window().isActiveWindow());
+}
+
+using frmfrequenzametri = FormTest;
+
+TEST_F(frmfrequenzametri, EachFromEachOther) {
+  use("mnufrequenzametri", "Option1 txtinput",
+      "lblinput lblmetri lblfrequenza lblpulsazione lblperiodo");
+  const auto wave = [](const std::string& prompt, const std::string& metres, const std::string& khz,
+                       const std::string& pulsation, const std::string& ms) {
+    return prompt + "|METRI : " + metres + "|FREQUENZA IN KHz : " + khz +
+           "|PULSAZIONE/SECONDO : " + pulsation + "|PERIODO/millisecondi : " + ms;
+  };
+  EXPECT_EQ(window.text("lblinput"), "METRI :");
+  expect("1|7100", wave("FREQUENZA IN KHz :", "42,2243", "7100", "44610600", "0,000140845"));
+  expect("0|20", wave("METRI :", "20", "14989,6", "94182600", "6,67128E-05"));
+  expect("3|20", wave("PERIODO/millisecondi:", "5995850", "0,05", "314,159", "20"));
+  expect("2|314.159265", wave("PULSAZIONE/SECONDO :", "5995850", "0,05", "314,159", "20"));
+  EXPECT_EQ(window.text("txtinput"), "314.159265");
+  window.click("Option1_1");
+  EXPECT_EQ(window.text("txtinput lblmetri lblperiodo"), "||");
+  expect("1|1e15", wave("FREQUENZA IN KHz :", "2,99792E-10", "1E+15", "6,28319E+18", "1E-15"));
+  for (const char* unusable : {"1|0", "1|-3", "1|1.1e15", "1|9e-13"}) {
+    expect(unusable, "FREQUENZA IN KHz :||||");
+  }
+}
+
+using frmradianti = FormTest;
+
+TEST_F(frmradianti, EveryUnitSignAndRounding) {
+  use("mnuradiant", "Option1 txtinput",
+      "lblgradi lblsessagesimali lblradianti lblcentesimali lblgiri");
+  const auto angle = [](const std::string& degrees, const std::string& sexagesimal,
+                        const std::string& radians, const std::string& gons,
+                        const std::string& turns) {
+    return "GRADI DECIMALI = " + degrees + "|GRADI SESSAGESIMALI = " + sexagesimal +
+           "|RADIANTI = " + radians + "|GRADI CENTESIMALI = " + gons + "|GIRI = " + turns;
+  };
+  expect("0|57.29578", angle("57,29578", "57° 17' 44,8\"", "1", "63,661978", "0,15915494"));
+  EXPECT_EQ(window.text("lblvaloreseno lblvalorecoseno"), "0,8415|0,5403");
+  expect("1|3.14159265", angle("180", "180° 0' 0,0\"", "3,1415927", "200", "0,5"));
+  EXPECT_EQ(window.text("lblinput lblvaloreseno lblvalorecoseno"), "RADIANTI :|0,0000|-1,0000");
+  expect("2|-50", angle("-45", "-45° 0' 0,0\"", "-0,78539816", "-50", "-0,125"));
+  expect("0|0", angle("0", "0° 0' 0,0\"", "0", "0", "0"));
+  enter("0|-0.00001");  // 0.036 seconds
+  EXPECT_EQ(window.text("lblsessagesimali"), "GRADI SESSAGESIMALI = 0° 0' 0,0\"");
+  enter("0|-0.000014");  // 0.0504 seconds
+  EXPECT_EQ(window.text("lblsessagesimali"), "GRADI SESSAGESIMALI = -0° 0' 0,1\"");
+  enter("0|1e9");
+  EXPECT_EQ(window.text("lblsessagesimali lblvaloreseno"),
+            "GRADI SESSAGESIMALI = 1000000000° 0' 0,0\"|-0,9848");  // of 280 degrees
+  for (const char* unusable : {"0|", "0|-", "0|1.1e9", "0|-1.1e9"}) {
+    expect(unusable, "||||");
+    EXPECT_EQ(window.text("lblvaloreseno lblvalorecoseno"), "|");
+  }
+}
+
+using frmprefissi = FormTest;
+
+TEST_F(frmprefissi, FromOnePrefixToAnother) {
+  use("mnuprefissi", "cmbda cmba txtinput", "lbloutput");
+  EXPECT_EQ(window.text("cmbda cmba lbloutput"), "-|-|");
+  const char* const table[][2] = {{"k|M|7100", "7,1"},
+                                  {"p|n|-4700", "-4,7"},
+                                  {"-|µ|0.00000047", "0,47"},
+                                  {"da|d|1.5", "150"},
+                                  {"-|-|0", "0"},
+                                  {"Q|q|1", "1E+60"},
+                                  {"-|k|1234567890123.5", ""},
+                                  {"m|-|123456789012.5", "123456789,013"},
+                                  {"-|-|", ""}};
+  for (const auto& [typed, result] : table) {
+    expect(typed, result);
+  }
+}
+
+TEST_F(frmprefissi, WritesTheNumbersOutAsTheCountryDoes) {
+  use("mnuprefissi", "txtinput", "lbloutput");
+  EXPECT_EQ(window.text("lblprefisso_0 lblsimbolo_0 lblfattore_0 lblnumero_0"), "quetta|Q|10³⁰|");
+  EXPECT_EQ(window.text("lblprefisso_23 lblsimbolo_23 lblfattore_23 lblnumero_23"),
+            "quecto|q|10⁻³⁰|");
+  EXPECT_EQ(window.text("lblnumero_5 lblnumero_6 lblnumero_9 lblnumero_11"),
+            "|1 000 000 000 000|1 000|10");
+  EXPECT_EQ(window.text("lblnumero_12 lblnumero_14 lblnumero_15 lblnumero_17 lblnumero_18"),
+            "0,1|0,001|0,000 001|0,000 000 000 001|");
+  window.click("cmdchiudi");
+  set_regional_settings({});
+  EXPECT_EQ(choose("mnuprefissi").text("lblnumero_15"), "0.000 001");
 }
 
 }  // namespace

@@ -120,8 +120,8 @@ class frmattimpcost final : public ui::Calculator {
   }
 
   void draw_pi() {
-    constexpr double shunt_in = left + 9.5;
-    constexpr double shunt_out = right - 9.5;
+    constexpr double shunt_in = left + 10.5;
+    constexpr double shunt_out = right - 10.5;
     draw_port(right, lblvaloreuscita);
     drawing.resistor({left, top}, {right, top})
         .named("R2", lblvalorer2)

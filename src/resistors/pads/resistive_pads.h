@@ -29,8 +29,9 @@ struct AttenuatorCell {
   Real shunt_ohm;   ///< each to ground
 };
 
-/// Source of the L: the load in parallel with the shunt is the k-th part of the input impedance, k
-/// the ratio of the voltages.
+/// In series and to ground, with the ratio k of the voltages: T, Z (k - 1) / (k + 1) and
+/// 2 Z k / (k^2 - 1); pi, Z (k^2 - 1) / (2 k) and Z (k + 1) / (k - 1); L, Z (k - 1) / k and
+/// Z / (k - 1).
 AttenuatorCell attenuator_cell(Cell cell, Real impedance_ohm, Real loss_db);
 
 /// The least loss of a pad between two impedances, wherever the higher one is:

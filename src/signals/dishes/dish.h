@@ -31,6 +31,12 @@ struct DishGain {
 /// The efficiency is a fraction, at most 1. Of dishes of a wavelength or more.
 DishGain dish_gain(Real diameter_m, Real wavelength_m, Real efficiency);
 
+/// The pattern of a circular aperture whose field falls off to the rim as a parabola,
+/// 20 lg(8 J2(u) / u^2), in a direction seen from its axis; 0 dB there. u goes with the sine of the
+/// angle, so that the pattern has this beamwidth, which is below 180. Throws invalid_argument in
+/// the midst of a zero.
+Real dish_pattern_db(Real off_axis_degrees, Real beamwidth_degrees);
+
 /// @}
 
 }  // namespace eterlab::signals

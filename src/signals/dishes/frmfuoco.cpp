@@ -20,7 +20,7 @@ class frmfuoco final : public ui::Calculator {
   ui::Result lblrapporto{this, "lblrapporto"};
   ui::Result lblangolo{this, "lblangolo"};
   ui::Result lblbordo{this, "lblbordo"};
-  ui::Schematic drawing{this, "drawing", 44, 34};
+  ui::Schematic drawing{this, "drawing", 44, 38};
   ui::Value lblvalorediametro{drawing, "lblvalorediametro"};
   ui::Value lblvaloreprofondita{drawing, "lblvaloreprofondita"};
   ui::Value lblvalorefuoco{drawing, "lblvalorefuoco"};
@@ -39,9 +39,9 @@ class frmfuoco final : public ui::Calculator {
   /// The section of a dish, to scale, its axis to the right.
   void draw(Real diameter, const DishFocus& focus) {
     constexpr double left = 12;
-    constexpr double axis_y = 16;
+    constexpr double axis_y = 18;
     constexpr double widest = 28;
-    constexpr double highest = 22;
+    constexpr double highest = 26;
     const Real depth = focus.focus_to_rim - focus.focal_length;
     const Real scale = std::min(widest / std::max(focus.focal_length, depth), highest / diameter);
     const double half = (diameter * scale / 2).value();
@@ -50,7 +50,8 @@ class frmfuoco final : public ui::Calculator {
 
     drawing.clear();
     drawing.curve(section({left, axis_y}, {rim_x, axis_y + half}))
-        .wire({{rim_x, axis_y - half}, {focus_x, axis_y}, {rim_x, axis_y + half}})
+        .arrow({focus_x, axis_y}, {rim_x, axis_y - half})
+        .arrow({focus_x, axis_y}, {rim_x, axis_y + half})
         .junction({focus_x, axis_y});
     if (focus_x > rim_x) {
       drawing.mark({focus_x, axis_y}, "F", Side::right);

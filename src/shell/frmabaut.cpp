@@ -1,0 +1,82 @@
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "shell/product.h"
+#include "ui/program_picture.h"
+#include "ui/ui.h"
+
+namespace eterlab::shell {
+
+namespace {
+
+constexpr std::array<std::string_view, 5> paragraphs{
+    "ETERLAB è un prontuario di calcolo per radioamatori e appassionati di elettronica: bobine, "
+    "antenne, linee, filtri, alimentatori. Si sceglie un calcolo dal menù, si scrivono due o tre "
+    "numeri e si legge il risultato.",
+    "I decimali si scrivono con il punto, qualunque sia la lingua del computer: 7.1 e non 7,1. I "
+    "risultati sono scritti come si usa nel proprio paese, in Italia con la virgola.",
+    "I risultati sono un punto di partenza per costruire e misurare: tolleranze, montaggio e "
+    "ambiente spostano sempre qualcosa.",
+    "I menù sono i capitoli del prontuario. Un calcolo si trova con il mouse, oppure con Alt, le "
+    "frecce e le prime lettere della voce cercata.",
+    "Un risultato si copia selezionandolo con il mouse e premendo Ctrl+C, oppure con il tasto "
+    "destro e la voce Copia. Le finestre con il pulsante STAMPA SCHEDA si stampano così come sono "
+    "sulla stampante predefinita."};
+
+// What a new user needs, on one page, and the licence behind it.
+class frmabaut final : public ui::Window {
+  static constexpr int about_program = static_cast<int>(paragraphs.size());
+
+  ui::ProgramPicture picture{this, "picture"};
+  ui::Label lbltitolo{this, "lbltitolo", title};
+  ui::Label lblversione{this, "lblversione", edition};
+  ui::LabelArray lbltesto{this, "lbltesto", about_program + 1};
+  ui::Label lbllicenza{this, "lbllicenza", licence};
+  ui::Button cmdlicenza{this, "cmdlicenza", "LICENZA"};
+  ui::ExitButton cmdchiudi{this, "cmdchiudi", "CHIUDI"};
+
+ public:
+  frmabaut() : Window{"frmabaut", "LEGGIMI"} {
+    lbltitolo.set_font("Times New Roman", 20.25, QFont::Bold);
+    std::vector<ui::Item> texts;
+    for (int index = 0; index <= about_program; ++index) {
+      lbltesto[index] = index < about_program
+                            ? std::string{paragraphs[static_cast<std::size_t>(index)]}
+                            : of_program();
+      lbltesto[index].setWordWrap(true);
+      texts.emplace_back(lbltesto[index]);
+    }
+    texts.push_back(ui::stretch());
+    lbllicenza.setWordWrap(true);
+    show_licence(false);
+    arrange(ui::column(ui::row(picture, ui::column(lbltitolo, lblversione), ui::stretch()),
+                       ui::alternatives(ui::column(texts), ui::column(lbllicenza, ui::stretch())),
+                       ui::buttons(cmdlicenza, cmdchiudi)),
+            80);
+    cmdlicenza.on_click([this] { show_licence(!ui::is_shown(lbllicenza)); });
+  }
+
+ private:
+  static std::string of_program() {
+    return "Versione del programma: " + std::string{program_version} +
+           ". Licenza: " + std::string{licence_name} + ". Librerie: Qt " + std::string{qt_version} +
+           " (LGPL 3), Boost " + std::string{boost_version} + " (Boost Software License 1.0).";
+  }
+
+  /// In place of the texts.
+  void show_licence(bool shows) {
+    for (int index = 0; index <= about_program; ++index) {
+      lbltesto[index].setVisible(!shows);
+    }
+    lbllicenza.setVisible(shows);
+    cmdlicenza.set_caption(shows ? "LEGGIMI" : "LICENZA");
+  }
+};
+
+const ui::Registration<frmabaut> registration{"frmabaut"};
+
+}  // namespace
+
+}  // namespace eterlab::shell
