@@ -86,7 +86,7 @@ class frmprefissi final : public ui::Calculator {
  private:
   void add_to_lists() {
     for (const SiPrefix& prefix : si_prefixes) {
-      if (exponents_.size() > 0 && exponents_.back() > 0 && prefix.exponent < 0) {
+      if (!exponents_.empty() && exponents_.back() > 0 && prefix.exponent < 0) {
         add_to_lists("-", 0);
       }
       add_to_lists(prefix.symbol, prefix.exponent);
