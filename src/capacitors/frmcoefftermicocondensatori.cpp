@@ -34,7 +34,7 @@ class frmcoefftermicocondensatori final : public ui::Calculator {
   frmcoefftermicocondensatori()
       : Calculator{"frmcoefftermicocondensatori",
                    "COEFFICIENTE TERMICO DEI CONDENSATORI CERAMICI"} {
-    cmbcoefficiente.add_names_of(ceramic_characteristics());
+    cmbcoefficiente.offer(ceramic_characteristics());
     for (int row = 0; const CeramicCharacteristic& characteristic : ceramic_characteristics()) {
       table.at(row, 0) = characteristic.name;
       table.at(row, 1) = plain(characteristic.ppm_per_degree);
