@@ -288,3 +288,38 @@ TEST_F(frmfiloverticale, Capacitance) {
 
 }  // namespace
 }  // namespace eterlab::test
+// SCRATCH
+#include <QPixmap>
+#include <QApplication>
+namespace eterlab::test {
+class Scratch : public FormTest {
+ public:
+  void shot(const std::string& name) {
+    settle();
+    window.window().grab().save(QString::fromStdString(std::string(getenv("SHOTS")) + "/" + name + ".png"));
+  }
+};
+TEST_F(Scratch, Shots) {
+  struct S { const char* menu; const char* boxes; std::vector<const char*> typed; };
+  const S all[] = {
+    {"mnubifilareaperta", "Option1 txtdiametro txtinput txtfattore", {"0|1000|100000|1", "1|1.6|450|0.95", "0|0.123456|12345.67|1"}},
+    {"mnubifilareterra", "txtdiametro txtdistanza txtaltezza", {"2|100|50", "999.9|99999.5|99999.9", "0.01|0.02|0.02"}},
+    {"mnubilanciataduepiani", "txtdiametro txtdistanza txtpiani txter", {"3|15|20|1", "999.9|99999.9|99999.9|4.4"}},
+    {"mnubilanciataschermata", "txtdiametro txtdistanza txtschermo txter", {"2|8|16|1", "999.9|12345.6|99999.9|4.4"}},
+    {"mnuguidachiusa", "Option1 txtlato txtinput txter", {"0|20|8|1", "1|21|35.4|1", "0|99999.9|999.9|1"}},
+    {"mnusingoladuepiani", "Option1 txtpiani txtinput txter", {"0|20|10|1", "1|16|50|1", "0|99999.9|999.9|1"}},
+    {"mnuimpcoassiale", "Option1 txtinput_0 txtinput_1 txter txtlunghezza", {"0|0.9|2.95|2.26|0.5", "1|13|75|1|", "2|6|50|1|0.52", "0|999.9|99999.9|1|9"}},
+    {"mnustrip", "Option1 txtdistanza txtspessore txtinput txter", {"0|1.6|0.035|5|4.4", "1|10|2|100|1", "0|999.99|99.99|999.99|1"}},
+    {"mnuindunifilare", "txtdiametro txtaltezza txtlunghezza", {"2|6|20", "999.99|12345.6|99999.9"}},
+    {"mnuindbifilare", "txtdiametro txtdistanza txtlunghezza txtfattore txtfrequenza", {"3|40|0.5|1|50", "3|40|1|1|80", "999.9|12345.6|99999.9|1|"}},
+    {"mnucapverticale", "txtdiametro txtlunghezza txtbase", {"2|10|0.5", "25|6|", "999.9|99999.9|12345.6"}},
+  };
+  for (const S& s : all) {
+    use(s.menu, s.boxes, "Label20");
+    shot(std::string(s.menu) + "_0");
+    int i = 1;
+    for (const char* t : s.typed) { enter(t); for (const auto& b : boxes()) ADD_FAILURE() << s.menu << b; shot(std::string(s.menu) + "_" + std::to_string(i++)); }
+    window.press(Qt::Key_Escape);
+  }
+}
+}
