@@ -292,6 +292,13 @@ TEST_F(frmfiloverticale, Capacitance) {
 #include <QPixmap>
 #include <QApplication>
 namespace eterlab::test {
+
+}  // namespace
+}  // namespace eterlab::test
+// SCRATCH
+#include <QPixmap>
+#include <QApplication>
+namespace eterlab::test {
 class Scratch : public FormTest {
  public:
   void shot(const std::string& name) {
