@@ -41,7 +41,7 @@ class frmcostruzionecondensatori final : public ui::Calculator {
  public:
   frmcostruzionecondensatori()
       : Calculator{"frmcostruzionecondensatori", "COSTRUZIONE DI CONDENSATORI A FACCE PIANE"} {
-    cmbdielettrico.add_names_of(materials::dielectrics());
+    cmbdielettrico.offer(materials::dielectrics());
     cmbdielettrico.add("ALTRO");
     Option1.preset(capacitance);
     ask_for(capacitance);
