@@ -13,6 +13,7 @@ namespace {
 
 constexpr double kilohm = 1e3;
 constexpr double microfarad = 1e-6;
+constexpr int columns = 55;
 constexpr std::string_view resistance_prompt = "RESISTENZA in kOhm :";
 constexpr std::string_view capacitance_prompt = "CAPACITA' in microF :";
 constexpr std::string_view delay_prompt = "RITARDO in SECONDI :";
@@ -34,12 +35,12 @@ class frmesempiocostempo final : public ui::Calculator {
   ui::Result lblcommerciale{this, "lblcommerciale"};
   ui::Note Label1{this, "Label1",
                   "LO STADIO DI SOGLIA DEVE ASSORBIRE MOLTO MENO DI QUANTO PASSA IN R"};
-  ui::Schematic drawing{this, "drawing", 70, 22};
+  ui::Schematic drawing{this, "drawing", columns, 22};
   ui::Value lblvaloretensione{drawing, "lblvaloretensione"};
   ui::Value lblvaloreresistenza{drawing, "lblvaloreresistenza"};
   ui::Value lblvalorecapacita{drawing, "lblvalorecapacita"};
   ui::Value lblvaloresoglia{drawing, "lblvaloresoglia"};
-  ui::Plot plot{this, "plot", time_axis(), voltage_axis(), 70, 30};
+  ui::Plot plot{this, "plot", time_axis(), voltage_axis(), columns, 32};
 
  public:
   frmesempiocostempo()
@@ -64,15 +65,15 @@ class frmesempiocostempo final : public ui::Calculator {
   void draw() {
     constexpr double supply = 3;
     constexpr double common = 19;
-    constexpr double battery = 6;
-    constexpr double charged = 23;
+    constexpr double battery = 4.5;
+    constexpr double charged = 18;
     constexpr double node = (supply + common) / 2;
-    constexpr double stage_left = 38;
-    constexpr double stage_right = 52;
+    constexpr double stage_left = 31;
+    constexpr double stage_right = 41;
     constexpr double stage_middle = (stage_left + stage_right) / 2;
     constexpr double stage_top = 7;
     constexpr double stage_bottom = 15;
-    constexpr double relay = 60;
+    constexpr double relay = 47.5;
     constexpr double relay_top = 5.5;
     constexpr double relay_bottom = 8.5;
     drawing.battery({battery, supply}, {battery, common})
@@ -92,7 +93,7 @@ class frmesempiocostempo final : public ui::Calculator {
         .wire({{stage_middle, supply}, {stage_middle, stage_top}})
         .wire({{stage_middle, stage_bottom}, {stage_middle, common}})
         .junction({stage_middle, supply});
-    drawing.box({relay - 2.5, relay_top}, {relay + 2.5, relay_bottom})
+    drawing.box({relay - 2, relay_top}, {relay + 2, relay_bottom})
         .named("RELE'", ui::Schematic::Side::right)
         .wire({{charged, supply}, {relay, supply}, {relay, relay_top}})
         .wire({{relay, relay_bottom}, {relay, node}, {stage_right, node}})

@@ -11,7 +11,7 @@ namespace eterlab::filters {
 
 namespace {
 
-constexpr int columns = 62;
+constexpr int columns = 58;
 
 struct Kind {
   PassBand band;
@@ -74,13 +74,13 @@ class frmtestcurvafiltro final : public ui::Calculator {
     constexpr double line = 4;
     constexpr double common_line = 17;
     constexpr double between = (line + common_line) / 2;
-    constexpr double input = 10;
-    constexpr double output = 52;
+    constexpr double input = 9;
+    constexpr double output = 49;
     drawing.clear();
     drawing.wire({{input, common_line}, {output, common_line}});
     if (kind().form == FilterForm::pi) {
-      constexpr double left = 16;
-      constexpr double right = 38;
+      constexpr double left = 14.5;
+      constexpr double right = 35.5;
       drawing.wire({{input, line}, {left, line}}).wire({{right, line}, {output, line}});
       draw_across(left, line, common_line, lblvalore1);
       draw_in_line(left, right, line, lblvalore2);

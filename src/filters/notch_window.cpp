@@ -9,9 +9,9 @@ namespace {
 
 // The drawing, in steps of its grid.
 constexpr int columns = 58;
-constexpr int rows = 22;
-constexpr double line = 7;
-constexpr double common_line = 19;
+constexpr int rows = 24;
+constexpr double line = 8.5;
+constexpr double common_line = 21;
 constexpr double source_x = 5;
 constexpr double load_x = 45;
 
@@ -77,7 +77,7 @@ void NotchWindow::draw_series_to_ground() {
 void NotchWindow::draw_parallel_in_line() {
   constexpr double left = 22;
   constexpr double right = 38;
-  constexpr double above = 3.2;
+  constexpr double above = 4.5;
   constexpr double below = 2 * line - above;
   drawing.resistor({source_x, line}, {left, line})
       .named("Z", lblvaloresorgente)

@@ -35,12 +35,14 @@ class frmconduttori final : public ui::Calculator {
       table.at(row, 1) = plain(cable.ampacity_a) + " A";
       ++row;
     }
-    lay_out(ui::column(ui::row(ui::column(ui::form(txtcorrente, txtlunghezza, txtvolt, txtcaduta),
-                                          lblsezione, lblcommerciale, lblcaduta, lblpotenza,
-                                          lblportata, ui::stretch()),
-                               table),
-                       Label1),
-            {}, 96);
+    for (ui::Input* input : {&txtcorrente, &txtlunghezza, &txtvolt, &txtcaduta}) {
+      input->on_change([this] { table.mark(-1); });
+    }
+    lay_out(ui::column(
+        ui::row(ui::column(ui::form(txtcorrente, txtlunghezza, txtvolt, txtcaduta), lblsezione,
+                           lblcommerciale, lblcaduta, lblpotenza, lblportata, ui::stretch()),
+                table),
+        Label1));
   }
 
   void show_example() override { fill_in({"22", "3", "13.8", "3"}); }

@@ -43,10 +43,8 @@ class frmddpcontatto final : public ui::Calculator {
       table.at(row, 1) = fixed(metal.anodic_index_v, 2);
       ++row;
     }
-    lay_out(ui::row(ui::column(ui::form(cmbmetallo1, cmbmetallo2), lbloutput, lblcorrode,
-                               lblgiudizio, ui::stretch()),
-                    table),
-            {}, 100);
+    lay_out(ui::column(ui::row(ui::form(cmbmetallo1, cmbmetallo2), ui::stretch()), lbloutput,
+                       lblcorrode, lblgiudizio, table));
   }
 
  private:

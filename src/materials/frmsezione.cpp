@@ -45,7 +45,7 @@ class frmsezione final : public ui::Calculator {
                                       lbldiametro, lblequivalente, lblawg, lblkm, ui::stretch()),
                            drawing),
                    Label1),
-        {}, 84);
+        {}, 88);
     Option1.on_click([this](int given) { ask_for(given); });
   }
 

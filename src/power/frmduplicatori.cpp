@@ -69,10 +69,10 @@ class frmduplicatori final : public ui::Calculator {
         .wire({mains.secondary_top, {diodes_x, input_y}})
         .junction({diodes_x, input_y})
         .diode({diodes_x, input_y}, {diodes_x, top})
-        .named("D1", Side::right)
+        .named("D1", Side::left)
         .wire({{diodes_x, input_y}, {diodes_x, middle_y}})
         .diode({diodes_x, bottom}, {diodes_x, middle_y})
-        .named("D2", Side::right)
+        .named("D2", Side::left)
         .wire({mains.secondary_bottom, {capacitors_x, middle_y}})
         .junction({capacitors_x, middle_y});
     drawing.wire({{diodes_x, top}, {load_x, top}})

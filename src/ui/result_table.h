@@ -16,7 +16,7 @@ namespace eterlab::ui {
 
 /// Rows of texts under the heads of their columns, in which rows can be marked. Screen readers are
 /// told the head of the column with each cell, and the text in the row's first one.
-class ResultTable final : public QWidget, public Blankable {
+class ResultTable final : public QWidget {
  public:
   enum class Kind : std::uint8_t {
     text,    ///< stays; to the left
@@ -38,11 +38,10 @@ class ResultTable final : public QWidget, public Blankable {
   /// Keeps room for this text in a column.
   void reserve(int column, std::string_view longest_text) const;
 
-  /// These rows stand out and no other ones, until results are emptied.
+  /// These rows stand out, and no other ones.
   void mark(const std::vector<int>& rows);
   /// One of them; none for -1.
   void mark(int row) { mark(row < 0 ? std::vector<int>{} : std::vector<int>{row}); }
-  void blank() override { mark(-1); }
 
   /// Puts something beside the last cell of a row, such as a patch of colour.
   void add_behind(int row, QWidget& widget);

@@ -218,7 +218,7 @@ TEST_F(frmfiltriBF, FourCircuits) {
   window.click("Option1_3");
   EXPECT_EQ(window.text("txtinput lbl1 lbl2 lbltaglio lblpendenza"), "||||");
   expect("3|300|10",
-         "R1 = 37,51 kOhm, E24 36 kOhm|R2 = 75,03 kOhm, E24 75 kOhm|TAGLIO A 3 dB = 300 Hz|"
+         "R1 = 37,51 kOhm, E24 39 kOhm|R2 = 75,03 kOhm, E24 75 kOhm|TAGLIO A 3 dB = 300 Hz|"
          "PENDENZA 12 dB PER OTTAVA (BUTTERWORTH)");
   EXPECT_EQ(window.text(values), "C in nF :|10 nF|10 nF|75,03 kOhm|37,51 kOhm");
   expect_refusal("3|300|", "txtinput");
@@ -261,7 +261,7 @@ TEST_F(frmtestcurvafiltro, RangesInTheOrderOfTheBoxes) {
       {"0|0.0009|0.009|50|1", {"txtinduttanza", "0.001 A 1000000"}},
       {"0|1|1000000001|0.09|1", {"txtcapacita", "0.01 A 1000000000"}},
       {"0|1|1|0.09|1", {"txtohm", "0.1 A 100000"}},
-      {"0|1|1|50|100001", {"txtfrequenza", "0.000001 A 100000"}},
+      {"0|1|1|50|100001", {"txtfrequenza", "1E-06 A 100000"}},
   };
   for (const auto& [typed, refusal] : table) {
     expect_refusal(typed, refusal.first, std::string{"VALORI AMMESSI: DA "} + refusal.second);

@@ -182,25 +182,28 @@ TEST(GeometryFactor, RodsAreFoundByTheirFactorUpToTheEnds) {
 
 /// Potential over charge of a thin strip on a sheet over ground, by the images of the sheet.
 double field_of_microstrip(double width, double height, double er) {
-  constexpr int n = 160;
-  constexpr int images = 150;
+  constexpr std::size_t n = 96;
   const double mirrored = -(er - 1) / (er + 1);
-  const auto node = [](std::size_t i) { return std::cos(pi * (static_cast<double>(i) + 0.5) / n); };
-  const auto square = [](double x) { return x * x; };
+  std::vector<std::vector<double>> cosines(n, std::vector<double>(n));  // of multiples of an angle
+  for (std::size_t i = 0; i < n; ++i) {
+    for (std::size_t m = 0; m < n; ++m) {
+      cosines[i][m] = std::cos(static_cast<double>(m) * pi * (static_cast<double>(i) + 0.5) / n);
+    }
+  }
   Matrix a(n, std::vector<double>(n));
   for (std::size_t i = 0; i < n; ++i) {
     for (std::size_t j = 0; j < n; ++j) {
       double logarithm = std::numbers::ln2 - std::log(width / 2);
-      for (int m = 1; m < n; ++m) {
-        logarithm += 2.0 / m * std::cos(m * std::acos(node(i))) * std::cos(m * std::acos(node(j)));
+      for (std::size_t m = 1; m < n; ++m) {
+        logarithm += 2 / static_cast<double>(m) * cosines[i][m] * cosines[j][m];
       }
-      const double apart = square(width / 2 * (node(i) - node(j)));
+      const double apart = width / 2 * (cosines[i][1] - cosines[j][1]);
       double sum = 2 * logarithm;
       double strength = 1;
-      for (int image = 1; image <= images; ++image) {
-        const double before = strength;
+      for (int image = 1; std::abs(strength) > 1e-7; ++image) {
+        const double depth = 2 * image * height;
+        sum += strength * (1 - mirrored) * std::log(apart * apart + depth * depth);
         strength *= mirrored;
-        sum += (before - strength) * std::log(apart + square(2 * image * height));
       }
       a[i][j] = sum / (1 + er);
     }
@@ -210,7 +213,7 @@ double field_of_microstrip(double width, double height, double er) {
 
 // A pair of strips is two microstrips of half the distance in series.
 TEST(FacingStrips, AreThoseOfTheirFieldWhenTheyAreThin) {
-  for (const double width : {0.05, 0.3, 1.0, 4.0, 20.0, 50.0}) {
+  for (const double width : {0.05, 1.0, 8.0, 50.0}) {
     const double air = field_of_microstrip(width, 0.5, 1);
     for (const double er : {1.0, 2.26, 10.0}) {
       SCOPED_TRACE(std::to_string(width) + ' ' + std::to_string(er));

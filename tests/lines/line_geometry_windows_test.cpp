@@ -42,6 +42,24 @@ TEST_F(frmbifilareaperta, ClickingAnOptionAsksAnew) {
             "da 0.1 a 1: 0.95 con distanziatori, 0.9 piattina forata, 0.82 piattina");
 }
 
+using frmbifilareterra = FormTest;
+
+TEST_F(frmbifilareterra, BalancedAndJoined) {
+  use("mnubifilareterra", "txtdiametro txtdistanza txtaltezza",
+      "lblimpedenza lbllibera lblcapacita lblparallelo lblquota3");
+  expect("2|100|50",
+         "IMPEDENZA BILANCIATA = 510,7 Ohm|SENZA IL PIANO = 552,2 Ohm  (-7,5 %)|"
+         "CAPACITA' TRA I FILI = 6,53 pF/metro|I DUE FILI UNITI VERSO IL PIANO = 148,4 Ohm|50 mm");
+  expect("1|25|3000",
+         "IMPEDENZA BILANCIATA = 469,1 Ohm|SENZA IL PIANO = 469,1 Ohm  (0,0 %)|"
+         "CAPACITA' TRA I FILI = 7,11 pF/metro|I DUE FILI UNITI VERSO IL PIANO = 445,9 Ohm|"
+         "3000 mm");
+  expect_refusal("2|100|3", "txtaltezza", "L'ALTEZZA DEVE ESSERE ALMENO 2 VOLTE IL DIAMETRO",
+                 notice);
+  expect_refusal("2|2.9|4", "txtdistanza", "LA DISTANZA DEVE ESSERE ALMENO 1,5 VOLTE IL DIAMETRO",
+                 notice);
+}
+
 using frmbilanciataduepiani = FormTest;
 
 TEST_F(frmbilanciataduepiani, Impedance) {

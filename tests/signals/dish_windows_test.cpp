@@ -1,4 +1,7 @@
+#include <algorithm>
+
 #include "support/form_test.h"
+#include "ui/plot.h"
 
 namespace eterlab::test {
 namespace {
@@ -43,6 +46,33 @@ TEST_F(frmbarattolo, BetweenTheCutOffsAndBeyond) {
   expect_refusal("1296|", "txtdiametro");
   enter("1296|136");
   EXPECT_EQ(boxes(), Boxes{});
+}
+
+using frmparaboliche = FormTest;
+
+TEST_F(frmparaboliche, FromAWavelengthOn) {
+  use("mnuparaboliche", "txtfrequenza txtdiametro txtrendimento",
+      "lblguadagno lblapertura lblarea lblcampo lblerrore");
+  EXPECT_EQ(window.text("txtrendimento"), "55");
+  expect("10368|60|55",
+         "GUADAGNO = 33,7 dBi, 31,5 dBd|APERTURA DEL FASCIO A 3 dB = 3,37 GRADI|"
+         "AREA EFFICACE = 0,1555 mq|CAMPO LONTANO OLTRE 24,9 mt.|"
+         "ERRORE DI SUPERFICIE (EFFICACE) PER 1 dB DI PERDITA = 1,1 mm");
+  const auto& plot = dynamic_cast<ui::Plot&>(window.control("plot"));
+  const auto is_written = [&plot](const QString& text) {
+    return std::ranges::count(plot.letters(), text, &ui::Letters::text);
+  };
+  EXPECT_EQ(is_written("A 3 dB 3,37°"), 1);
+  // Just a wavelength: (pi)^2 are 9.94 dB.
+  expect("299.792458|100|100",
+         "GUADAGNO = 9,9 dBi, 7,8 dBd|APERTURA DEL FASCIO A 3 dB = 70,00 GRADI|"
+         "AREA EFFICACE = 0,7854 mq|CAMPO LONTANO OLTRE 2 mt.|"
+         "ERRORE DI SUPERFICIE (EFFICACE) PER 1 dB DI PERDITA = 38,2 mm");
+  enter("1e12|1e12|1e-12");
+  EXPECT_EQ(boxes(), Boxes{});
+  expect_refusal("144|60|55", "txtdiametro", "IL DIAMETRO DEVE ESSERE ALMENO UNA LUNGHEZZA D'ONDA");
+  expect_refusal("144|60|100.1", "txtrendimento", "IL RENDIMENTO NON PUO' SUPERARE IL 100 %");
+  EXPECT_EQ(is_written("A 3 dB 3,37°"), 0);
 }
 
 }  // namespace

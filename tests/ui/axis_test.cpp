@@ -121,8 +121,8 @@ TEST_F(PlotAxis, ACurveIsFineWhereItIsSteep) {
   const auto peak_at = [](double place, double half_width) {
     return [=](Real x) { return 1 / (1 + pow((x - place) / half_width, 2)); };
   };
-  // A quarter of a pixel wide, between two samples.
-  ui::Curve curve{peak_at(5.0329, 0.003), {0, 10}, {}, {}, resolution, ""};
+  // A quarter of a pixel wide, in the middle between two samples.
+  ui::Curve curve{peak_at(5.01875, 0.003), {0, 10}, {}, {}, resolution, ""};
   EXPECT_GT(curve.values()->to, 0.98);
   // Far narrower, and named by a marker.
   const auto needle = peak_at(5.0329, 1e-6);

@@ -128,7 +128,7 @@ TEST_F(Calculators, MarkARowToTheEyeAndToTheEar) {
   EXPECT_TRUE(marked.font().bold());
   EXPECT_EQ(marked.accessibleDescription(), "PART, riga evidenziata");
   EXPECT_EQ(window.control("lblpart_0").accessibleDescription(), "one PART");
-  window.type("txtfirst", "2");
+  enter("FIRST|1|2|3");
   EXPECT_FALSE(marked.font().bold());
   EXPECT_EQ(marked.accessibleDescription(), "PART");
 }

@@ -24,7 +24,7 @@ class frmparaboliche final : public ui::Calculator {
   ui::Plot plot{this,
                 "plot",
                 {.title = "ANGOLO", .unit = "°"},
-                {.title = "GUADAGNO RELATIVO", .unit = "dB", .range = {{-40, 0}}}};
+                {.title = "GUADAGNO RELATIVO", .unit = "dB", .range = {{-40, 10}}}};
 
  public:
   frmparaboliche() : Calculator{"frmparaboliche", "GUADAGNO DI UNA PARABOLA"} {
@@ -62,11 +62,11 @@ class frmparaboliche final : public ui::Calculator {
     constexpr double beamwidths_to_a_side = 4;
     const Real end_degrees = std::min(beamwidths_to_a_side * beamwidth_degrees, Real{90});
     const Real half_power_db = dish_pattern_db(beamwidth_degrees / 2, beamwidth_degrees);
-    const std::string half = fixed(beamwidth_degrees / 2, 2) + "°";
     plot.curve([=](Real angle) { return dish_pattern_db(angle, beamwidth_degrees); }, -end_degrees,
                end_degrees)
-        .marker(-beamwidth_degrees / 2, half_power_db, "-" + half)
-        .marker(beamwidth_degrees / 2, half_power_db, half);
+        .marker(-beamwidth_degrees / 2, half_power_db, "")
+        .marker(beamwidth_degrees / 2, half_power_db,
+                "A 3 dB " + fixed(beamwidth_degrees, 2) + "°");
   }
 };
 
