@@ -19,17 +19,16 @@ EnclosedPairWindow::EnclosedPairWindow(const Names& names)
                 names.enclosure_prompt,
                 {.range = distance_range_mm, .tells_range = true, .prompt_name = "Label3"}},
       dielectric{this, "Label4"},
-      drawing{this, "drawing", 42, 25},
+      drawing{this, "drawing", 40, 28},
       lblquota1{drawing, "lblquota1", "d"},
       lblquota2{drawing, "lblquota2", "D"},
       lblquota3{drawing, "lblquota3", names.enclosure_letter},
       lblimpedenza{this, "lblimpedenza"},
       line{this},
       Label5{this, "Label5", names.note} {
-  lay_out(ui::column(ui::row(ui::column(ui::form(txtdiametro, txtdistanza, enclosure, dielectric),
-                                        lblimpedenza, line, ui::stretch()),
-                             drawing),
-                     Label5));
+  lay_out(ui::column(ui::form(txtdiametro, txtdistanza, enclosure, dielectric),
+                     ui::row(ui::column(lblimpedenza, line, ui::stretch()), drawing), Label5),
+          {}, 90);
 }
 
 void EnclosedPairWindow::compute() {

@@ -9,7 +9,7 @@ namespace eterlab::lines {
 
 EnclosedRodWindow::EnclosedRodWindow(const Kind& kind)
     : LineWindow{kind.window, kind.title},
-      drawing{this, "drawing", 42, 25},
+      drawing{this, "drawing", 40, 25},
       lblquota1{drawing, "lblquota1", kind.size_letter},
       lblquota2{drawing, "lblquota2", "d"},
       kind_{kind},
@@ -25,14 +25,13 @@ EnclosedRodWindow::EnclosedRodWindow(const Kind& kind)
       lblcommerciale{this, "lblcommerciale"},
       line{this} {
   std::vector<ui::Item> items{
-      ui::row(ui::column(either.Frame1, ui::form(size, either.txtinput, dielectric), lblrisultato,
-                         lblcommerciale, line, ui::stretch()),
-              drawing)};
+      either.Frame1, ui::form(size, either.txtinput, dielectric),
+      ui::row(ui::column(lblrisultato, lblcommerciale, line, ui::stretch()), drawing)};
   if (!kind.note.empty()) {
     Label3 = std::make_unique<ui::Note>(this, "Label3", kind.note);
     items.emplace_back(*Label3);
   }
-  lay_out(ui::column(items));
+  lay_out(ui::column(items), {}, 102);
 }
 
 void EnclosedRodWindow::compute() {

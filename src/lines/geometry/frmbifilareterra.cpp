@@ -31,7 +31,7 @@ class frmbifilareterra final : public LineWindow {
                        "txtaltezza",
                        "ALTEZZA DEI CENTRI DAL PIANO in mm",
                        {.range = distance_range_mm, .tells_range = true, .prompt_name = "Label3"}};
-  ui::Schematic drawing{this, "drawing", 42, 22};
+  ui::Schematic drawing{this, "drawing", 43, 22};
   ui::Value lblquota1{drawing, "lblquota1", "d"};
   ui::Value lblquota2{drawing, "lblquota2", "D"};
   ui::Value lblquota3{drawing, "lblquota3", "h"};
@@ -62,14 +62,14 @@ class frmbifilareterra final : public LineWindow {
     using enum ui::Schematic::Side;
     constexpr double radius = 2;
     constexpr double plane_height = 19;
-    constexpr ui::At first{11, 8};
-    constexpr ui::At second{23, 8};
+    constexpr ui::At first{9, 8};
+    constexpr ui::At second{20, 8};
     drawing.shaded_circle(first, radius).shaded_circle(second, radius);
-    plane(drawing, {31, plane_height}, {4, plane_height});
+    plane(drawing, {28, plane_height}, {4, plane_height});
     measure_width(drawing, {first.x - radius, first.y}, {first.x + radius, first.y}, 12, lblquota1,
                   below);
     measure_width(drawing, first, second, 3.5, lblquota2, above);
-    measure_height(drawing, {second.x + radius, second.y}, {31, plane_height}, 33, lblquota3,
+    measure_height(drawing, {second.x + radius, second.y}, {28, plane_height}, 30, lblquota3,
                    right);
   }
 

@@ -25,18 +25,18 @@ class frmbilanciataduepiani final : public EnclosedPairWindow {
  private:
   void draw() {
     using enum ui::Schematic::Side;
-    constexpr double top = 2;
-    constexpr double bottom = 20;
+    constexpr double top = 3;
+    constexpr double bottom = 22;
     constexpr double radius = 2;
-    constexpr ui::At first{11, 11};
-    constexpr ui::At second{22, 11};
+    constexpr ui::At first{9, 12.5};
+    constexpr ui::At second{19, 12.5};
     drawing.shaded_circle(first, radius).shaded_circle(second, radius);
-    plane(drawing, {30, top}, {2, top});
-    plane(drawing, {30, bottom}, {2, bottom});
-    measure_width(drawing, {first.x - radius, first.y}, {first.x + radius, first.y}, 15, lblquota1,
-                  below);
-    measure_width(drawing, first, second, 7, lblquota2, above);
-    measure_height(drawing, {30, top}, {30, bottom}, 32, lblquota3, right);
+    plane(drawing, {25, top}, {2, top});
+    plane(drawing, {25, bottom}, {2, bottom});
+    measure_width(drawing, {first.x - radius, first.y}, {first.x + radius, first.y}, 16.5,
+                  lblquota1, below);
+    measure_width(drawing, first, second, 8.5, lblquota2, above);
+    measure_height(drawing, {25, top}, {25, bottom}, 26.5, lblquota3, right);
   }
 
   Real checked_factor(Real diameter_mm, Real spacing_mm, Real plate_distance_mm) override {

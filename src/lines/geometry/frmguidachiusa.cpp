@@ -32,13 +32,13 @@ class frmguidachiusa final : public EnclosedRodWindow {
     constexpr double radius = 3.5;
     constexpr double half_side = 9;
     constexpr double wall = 0.8;
-    constexpr ui::At axis{18, 10.5};
+    constexpr ui::At axis{13, 10.5};
     constexpr double floor = axis.y + half_side;
     drawing
         .shaded_frame({axis.x - half_side, axis.y - half_side}, {axis.x + half_side, floor}, wall)
         .shaded_circle(axis, radius)
-        .wire({{axis.x + half_side + wall, axis.y}, {32, axis.y}})
-        .ground({32, axis.y});
+        .wire({{axis.x + half_side + wall, axis.y}, {27, axis.y}})
+        .ground({27, axis.y});
     measure_width(drawing, {axis.x - half_side, floor}, {axis.x + half_side, floor}, floor + 2.5,
                   lblquota1, below);
     measure_width(drawing, {axis.x - radius, axis.y}, {axis.x + radius, axis.y}, 15.5, lblquota2,

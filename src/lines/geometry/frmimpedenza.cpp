@@ -30,7 +30,7 @@ class frmimpedenza final : public LineWindow {
       "txtlunghezza",
       "LUNGHEZZA DEL TRATTO in metri (FACOLTATIVA)",
       {.range = length_range_m, .tells_range = true, .is_optional = true, .prompt_name = "Label2"}};
-  ui::Schematic drawing{this, "drawing", 40, 27};
+  ui::Schematic drawing{this, "drawing", 32, 27};
   ui::Value lblquota1{drawing, "lblquota1", "d"};
   ui::Value lblquota2{drawing, "lblquota2", "D"};
   ui::Result lblrisultato{this, "lblrisultato"};
@@ -49,12 +49,12 @@ class frmimpedenza final : public LineWindow {
     draw();
     Option1.preset(find_impedance);
     ask();
-    lay_out(ui::column(
-        ui::row(
-            ui::column(Frame1.arrange(Option1), ui::form(txtinput, dielectric, txtlunghezza),
-                       lblrisultato, lblcommerciale, line, lblfrequenza, lbltratto, ui::stretch()),
-            drawing),
-        Label3));
+    lay_out(ui::column(Frame1.arrange(Option1), ui::form(txtinput, dielectric, txtlunghezza),
+                       ui::row(ui::column(lblrisultato, lblcommerciale, line, lblfrequenza,
+                                          lbltratto, ui::stretch()),
+                               drawing),
+                       Label3),
+            {}, 100);
 
     Option1.on_click([this](int) {
       txtinput.clear();
@@ -76,11 +76,11 @@ class frmimpedenza final : public LineWindow {
     constexpr double radius = 3;
     constexpr double screen = 9;
     constexpr double wall = 0.8;
-    constexpr ui::At axis{16, 10.5};
+    constexpr ui::At axis{14, 10.5};
     drawing.shaded_ring(axis, screen, screen + wall)
         .shaded_circle(axis, radius)
-        .wire({{axis.x + screen + wall, axis.y}, {30, axis.y}})
-        .ground({30, axis.y});
+        .wire({{axis.x + screen + wall, axis.y}, {28, axis.y}})
+        .ground({28, axis.y});
     measure_width(drawing, {axis.x - radius, axis.y}, {axis.x + radius, axis.y}, 5.5, lblquota1,
                   above);
     measure_width(drawing, {axis.x - screen, axis.y}, {axis.x + screen, axis.y}, 22.5, lblquota2,

@@ -34,11 +34,11 @@ class frmsingoladuepiani final : public EnclosedRodWindow {
     constexpr double top = 2;
     constexpr double bottom = 20;
     constexpr double radius = 3.5;
-    constexpr ui::At axis{17, 11};
+    constexpr ui::At axis{14, 11};
     drawing.shaded_circle(axis, radius);
-    plane(drawing, {30, top}, {4, top});
-    plane(drawing, {30, bottom}, {4, bottom});
-    measure_height(drawing, {30, top}, {30, bottom}, 32, lblquota1, right);
+    plane(drawing, {25, top}, {2, top});
+    plane(drawing, {25, bottom}, {2, bottom});
+    measure_height(drawing, {25, top}, {25, bottom}, 26.5, lblquota1, right);
     measure_width(drawing, {axis.x - radius, axis.y}, {axis.x + radius, axis.y}, 16, lblquota2,
                   below);
   }

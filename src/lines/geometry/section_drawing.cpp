@@ -27,7 +27,7 @@ void measure_width(ui::Schematic& drawing, At left, At right, double height, ui:
                    ui::Schematic::Side side) {
   extend_up(drawing, left, right, height);
   drawing.dimension({left.x, height}, {right.x, height})
-      .label(label, {(left.x + right.x) / 2, height}, side);
+      .label(label, {(left.x + right.x) / 2, beyond(left.y, height)}, side);
 }
 
 void measure_height(ui::Schematic& drawing, At top, At bottom, double across, ui::Label& label,
@@ -42,7 +42,7 @@ void measure_thin_width(ui::Schematic& drawing, At left, At right, double height
   extend_up(drawing, left, right, height);
   drawing.arrow({left.x - outside, height}, {left.x, height})
       .arrow({right.x + outside, height}, {right.x, height})
-      .label(label, {(left.x + right.x) / 2, height}, side);
+      .label(label, {(left.x + right.x) / 2, beyond(left.y, height)}, side);
 }
 
 void measure_thin_height(ui::Schematic& drawing, At top, At bottom, double across, ui::Label& label,
@@ -50,7 +50,7 @@ void measure_thin_height(ui::Schematic& drawing, At top, At bottom, double acros
   extend_across(drawing, top, bottom, across);
   drawing.arrow({across, top.y - outside}, {across, top.y})
       .arrow({across, bottom.y + outside}, {across, bottom.y})
-      .label(label, {across, (top.y + bottom.y) / 2}, side);
+      .label(label, {beyond(top.x, across), (top.y + bottom.y) / 2}, side);
 }
 
 void plane(ui::Schematic& drawing, At left, At right) { drawing.wire({left, right}).ground(right); }
