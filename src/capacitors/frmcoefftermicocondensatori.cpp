@@ -44,7 +44,6 @@ class frmcoefftermicocondensatori final : public ui::Calculator {
       table.add_behind(row, *swatches.back());
       ++row;
     }
-    cmbcoefficiente.on_choose([this] { table.mark(cmbcoefficiente.chosen()); });
     cmbcoefficiente.choose("NP0");
     lay_out(ui::row(ui::column(ui::form(cmbcoefficiente, txtcapacita, txttemperatura), lblcolore,
                                lblvariazione, lblcapacita, lblderiva, ui::stretch()),
@@ -72,6 +71,7 @@ class frmcoefftermicocondensatori final : public ui::Calculator {
     const Real capacitance_pf = txtcapacita.value();
     const Real degrees = txttemperatura.value();
     const Real drift_pf = ceramic_drift(capacitance_pf, ppm_per_degree, degrees);
+    table.mark(cmbcoefficiente.chosen());
     lblcolore = "COLORE: " + std::string{characteristic.marking};
     lblvariazione = "VARIAZIONE = " + sig(drift_pf, 4) + " pF";
     lblcapacita = "CAPACITA' = " + sig(capacitance_pf + drift_pf, 6) + " pF";

@@ -73,7 +73,7 @@ class frmesempiocostempo final : public ui::Calculator {
     constexpr double stage_middle = (stage_left + stage_right) / 2;
     constexpr double stage_top = 7;
     constexpr double stage_bottom = 15;
-    constexpr double relay = 47.5;
+    constexpr double relay = 45.5;
     constexpr double relay_top = 5.5;
     constexpr double relay_bottom = 8.5;
     drawing.battery({battery, supply}, {battery, common})

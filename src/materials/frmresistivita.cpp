@@ -34,9 +34,10 @@ class frmresistivita final : public ui::Window {
       table.at(row, 2) = fixed(metal.temperature_coefficient_per_k, 5);
       ++row;
     }
-    arrange(ui::column(ui::row(ui::form(cmbmetallo), ui::stretch()), lblresistivita,
-                       lblconducibilita, lbliacs, lblcoefficiente, lblfilo, table,
-                       ui::buttons(cmdchiudi)));
+    arrange(
+        ui::column(ui::row(ui::form(cmbmetallo), ui::stretch()), lblresistivita, lblconducibilita,
+                   lbliacs, lblcoefficiente, lblfilo, table, ui::buttons(cmdchiudi)),
+        70);
     cmbmetallo.on_choose([this] { show_metal(); });
   }
 

@@ -166,7 +166,8 @@ void Window::showEvent(QShowEvent* event) {
 
 void Window::focus_first_input() {
   for (QWidget* at = nextInFocusChain(); at != this; at = at->nextInFocusChain()) {
-    if (qobject_cast<QLineEdit*>(at) != nullptr && at->isVisibleTo(this)) {
+    const auto* box = qobject_cast<QLineEdit*>(at);
+    if (box != nullptr && !box->isReadOnly() && box->isVisibleTo(this)) {
       at->setFocus();
       return;
     }

@@ -189,6 +189,7 @@ TEST_F(frmcostruzionecondensatori, AnyOfThreeOutOfTheOthers) {
 
 TEST_F(frmcostruzionecondensatori, TheMaterialWritesItsConstantButOther) {
   use("mnucostrcondensatori", plates_boxes, "lbloutput");
+  EXPECT_EQ(window.focus(), "txtarmature");  // the first to type into
   enter("0|ARIA||2|100|1");
   EXPECT_NE(results(), "");
   const char* const table[][2] = {
