@@ -19,7 +19,7 @@ EnclosedPairWindow::EnclosedPairWindow(const Names& names)
                 names.enclosure_prompt,
                 {.range = distance_range_mm, .tells_range = true, .prompt_name = "Label3"}},
       dielectric{this, "Label4"},
-      drawing{this, "drawing", 38, 28},
+      drawing{this, "drawing", 40, 28},
       lblquota1{drawing, "lblquota1", "d"},
       lblquota2{drawing, "lblquota2", "D"},
       lblquota3{drawing, "lblquota3", names.enclosure_letter},

@@ -9,7 +9,7 @@ namespace eterlab::lines {
 
 EnclosedRodWindow::EnclosedRodWindow(const Kind& kind)
     : LineWindow{kind.window, kind.title},
-      drawing{this, "drawing", 38, 25},
+      drawing{this, "drawing", 40, 25},
       lblquota1{drawing, "lblquota1", kind.size_letter},
       lblquota2{drawing, "lblquota2", "d"},
       kind_{kind},
@@ -31,7 +31,7 @@ EnclosedRodWindow::EnclosedRodWindow(const Kind& kind)
     Label3 = std::make_unique<ui::Note>(this, "Label3", kind.note);
     items.emplace_back(*Label3);
   }
-  lay_out(ui::column(items), {}, 90);
+  lay_out(ui::column(items), {}, 102);
 }
 
 void EnclosedRodWindow::compute() {

@@ -31,7 +31,7 @@ class frmbifilareterra final : public LineWindow {
                        "txtaltezza",
                        "ALTEZZA DEI CENTRI DAL PIANO in mm",
                        {.range = distance_range_mm, .tells_range = true, .prompt_name = "Label3"}};
-  ui::Schematic drawing{this, "drawing", 42, 22};
+  ui::Schematic drawing{this, "drawing", 43, 22};
   ui::Value lblquota1{drawing, "lblquota1", "d"};
   ui::Value lblquota2{drawing, "lblquota2", "D"};
   ui::Value lblquota3{drawing, "lblquota3", "h"};

@@ -24,19 +24,19 @@ class frmbilanciataschermata final : public EnclosedPairWindow {
  private:
   void draw() {
     using enum ui::Schematic::Side;
-    constexpr double radius = 1.6;
+    constexpr double radius = 1.5;
     constexpr double screen = 10;
     constexpr double wall = 0.8;
     constexpr ui::At axis{13, 11};
-    constexpr ui::At first{axis.x - 3.8, axis.y};
-    constexpr ui::At second{axis.x + 3.8, axis.y};
+    constexpr ui::At first{axis.x - 3.4, axis.y};
+    constexpr ui::At second{axis.x + 3.4, axis.y};
     drawing.shaded_ring(axis, screen, screen + wall)
         .shaded_circle(first, radius)
         .shaded_circle(second, radius)
         .wire({{axis.x + screen + wall, axis.y}, {28, axis.y}})
         .ground({28, axis.y});
-    measure_width(drawing, {first.x - radius, first.y}, {first.x + radius, first.y}, 14, lblquota1,
-                  below);
+    measure_width(drawing, {first.x - radius, first.y}, {first.x + radius, first.y}, 13.6,
+                  lblquota1, below);
     measure_width(drawing, first, second, 7.5, lblquota2, above);
     measure_width(drawing, {axis.x - screen, axis.y}, {axis.x + screen, axis.y}, 23.5, lblquota3,
                   below);

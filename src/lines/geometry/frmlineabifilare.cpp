@@ -30,7 +30,7 @@ class frmlineabifilare final : public LineWindow {
                           .tells_range = true,
                           .is_optional = true,
                           .prompt_name = "Label5"}};
-  ui::Schematic drawing{this, "drawing", 48, 21};
+  ui::Schematic drawing{this, "drawing", 49, 21};
   ui::Value lblquota1{drawing, "lblquota1", "d"};
   ui::Value lblquota2{drawing, "lblquota2", "D"};
   ui::Value lblquota3{drawing, "lblquota3", "l"};
@@ -59,9 +59,9 @@ class frmlineabifilare final : public LineWindow {
  private:
   void draw() {
     using enum ui::Schematic::Side;
-    constexpr double terminals = 14;
-    constexpr double from = 15.5;
-    constexpr double to = 34;
+    constexpr double terminals = 15.5;
+    constexpr double from = 17;
+    constexpr double to = 35;
     constexpr double upper = 4;
     constexpr double lower = 14;
     constexpr double half_thickness = 0.5;
@@ -72,9 +72,9 @@ class frmlineabifilare final : public LineWindow {
           .terminal({terminals, wire});
     }
     drawing.dashed({{bridge, upper + half_thickness}, {bridge, lower - half_thickness}});
-    measure_thin_height(drawing, {to, upper - half_thickness}, {to, upper + half_thickness}, 36.5,
+    measure_thin_height(drawing, {to, upper - half_thickness}, {to, upper + half_thickness}, 37.5,
                         lblquota1, right);
-    measure_height(drawing, {terminals - 0.5, upper}, {terminals - 0.5, lower}, 11.5, lblquota2,
+    measure_height(drawing, {terminals - 0.5, upper}, {terminals - 0.5, lower}, 13, lblquota2,
                    left);
     measure_width(drawing, {from, lower + half_thickness}, {to, lower + half_thickness}, 17.5,
                   lblquota3, below);

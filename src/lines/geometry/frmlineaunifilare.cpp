@@ -51,14 +51,14 @@ class frmlineaunifilare final : public LineWindow {
  private:
   void draw() {
     using enum ui::Schematic::Side;
-    constexpr double from = 13.5;
-    constexpr double to = 32.5;
+    constexpr double from = 14.5;
+    constexpr double to = 33;
     constexpr double axis = 7;
     constexpr double half_thickness = 0.5;
     constexpr double ground = 16;
     drawing.shaded_box({from, axis - half_thickness}, {to, axis + half_thickness});
     plane(drawing, {to, ground}, {from - 3, ground});
-    measure_thin_height(drawing, {from, axis - half_thickness}, {from, axis + half_thickness}, 11,
+    measure_thin_height(drawing, {from, axis - half_thickness}, {from, axis + half_thickness}, 12,
                         lblquota1, left);
     measure_height(drawing, {to, axis}, {to, ground}, 35, lblquota2, right);
     measure_width(drawing, {from, axis - half_thickness}, {to, axis - half_thickness}, 3.5,

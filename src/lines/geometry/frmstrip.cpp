@@ -26,7 +26,7 @@ class frmstrip final : public LineWindow {
                          .tells_range = true,
                          .prompt_name = "Label2"}};
   DielectricInput dielectric{this, "Label3"};
-  ui::Schematic drawing{this, "drawing", 48, 20};
+  ui::Schematic drawing{this, "drawing", 50, 20};
   ui::Value lblquota1{drawing, "lblquota1", "s"};
   ui::Value lblquota2{drawing, "lblquota2", "t"};
   ui::Value lblquota3{drawing, "lblquota3", "w"};
@@ -42,7 +42,7 @@ class frmstrip final : public LineWindow {
     lay_out(
         ui::column(either.Frame1, ui::form(txtdistanza, txtspessore, either.txtinput, dielectric),
                    ui::row(ui::column(lblrisultato, line, ui::stretch()), drawing), Label4),
-        {}, 90);
+        {}, 108);
   }
 
   void show_example() override { fill_in({"1.6", "0.035", "5", "4.4"}); }
@@ -50,10 +50,10 @@ class frmstrip final : public LineWindow {
  private:
   void draw() {
     using enum ui::Schematic::Side;
-    constexpr double strip_left = 14;
-    constexpr double strip_right = 32;
-    constexpr double sheet_left = 11.5;
-    constexpr double sheet_right = 34.5;
+    constexpr double strip_left = 16;
+    constexpr double strip_right = 33;
+    constexpr double sheet_left = 13.5;
+    constexpr double sheet_right = 35.5;
     constexpr double upper = 9;
     constexpr double lower = 15;
     constexpr double thickness = 1.2;
@@ -65,8 +65,8 @@ class frmstrip final : public LineWindow {
                  {sheet_right, upper},
                  {sheet_right, lower},
                  {strip_right, lower}});
-    measure_height(drawing, {sheet_right, upper}, {sheet_right, lower}, 37.5, lblquota1, right);
-    measure_thin_height(drawing, {strip_left, upper - thickness}, {strip_left, upper}, 10,
+    measure_height(drawing, {sheet_right, upper}, {sheet_right, lower}, 38.5, lblquota1, right);
+    measure_thin_height(drawing, {strip_left, upper - thickness}, {strip_left, upper}, 12,
                         lblquota2, left);
     measure_width(drawing, {strip_left, upper - thickness}, {strip_right, upper - thickness}, 4.5,
                   lblquota3, above);
