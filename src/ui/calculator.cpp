@@ -98,7 +98,7 @@ void Calculator::calculate() {
 
 std::vector<Input*> Calculator::shown_inputs() const {
   std::vector<Input*> inputs;
-  for (QWidget* at = nextInFocusChain(); at != this; at = at->nextInFocusChain()) {
+  for (QWidget* at = nextInFocusChain(); at != nullptr && at != this; at = at->nextInFocusChain()) {
     if (auto* input = dynamic_cast<Input*>(at); input != nullptr && input->isVisibleTo(this)) {
       inputs.push_back(input);
     }
@@ -141,7 +141,7 @@ void Calculator::require(bool holds, QWidget& focus, std::string_view text) cons
 }
 
 void Calculator::require(bool holds, QWidget& focus, std::string_view text,
-                         std::string_view title) const {
+                         std::string_view title) {
   if (!holds) {
     throw Refusal{&focus, std::string{text}, std::string{title}};
   }

@@ -47,7 +47,7 @@ class Calculator : public Window {
 
   /// Unless this holds, the computation ends with a message and the focus in the box.
   void require(bool holds, QWidget& focus, std::string_view text) const;
-  void require(bool holds, QWidget& focus, std::string_view text, std::string_view title) const;
+  static void require(bool holds, QWidget& focus, std::string_view text, std::string_view title);
 
   /// Lays out the window: what stands above, the hint how decimals are written (where there are
   /// boxes), then the buttons, others between CALCOLA and E S C I.

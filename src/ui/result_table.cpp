@@ -78,7 +78,8 @@ ResultTable::ResultTable(Parent parent, std::string_view name, int rows,
 }
 
 Label& ResultTable::at(int row, int column) const {
-  return *cells_[static_cast<std::size_t>(row * columns_ + column)];
+  const int index = row * columns_ + column;
+  return *cells_[static_cast<std::size_t>(index)];
 }
 
 void ResultTable::reserve(int column, std::string_view longest_text) const {
