@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <numbers>
 
+#include "common/rounding.h"
+
 namespace eterlab::capacitors {
 
 namespace {
-
-constexpr double slack = 1e-9;
 
 // Ascending.
 constexpr Real standard_voltages_v[] = {
@@ -16,6 +16,7 @@ constexpr Real standard_voltages_v[] = {
 }  // namespace
 
 std::optional<Real> standard_working_voltage_v(Real least_v) {
+  constexpr double slack = 1e-9;
   const auto* const found = std::ranges::lower_bound(standard_voltages_v, least_v * (1 - slack));
   return found == std::end(standard_voltages_v) ? std::nullopt : std::optional{*found};
 }
@@ -40,7 +41,7 @@ Real line_peak_v(Real power_w, Real impedance_ohm, Real standing_wave_ratio) {
 Real least_working_voltage_v(Real peak_v) { return 1.5 * peak_v; }
 
 Real least_whole_working_voltage_v(Real peak_v) {
-  return ceil(least_working_voltage_v(peak_v) - slack);
+  return rounded_up(least_working_voltage_v(peak_v));
 }
 
 }  // namespace eterlab::capacitors

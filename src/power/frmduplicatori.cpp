@@ -2,6 +2,7 @@
 
 #include "common/number_text.h"
 #include "common/preferred_values.h"
+#include "common/rounding.h"
 #include "power/voltage_doubler.h"
 #include "ui/schematic.h"
 #include "ui/ui.h"
@@ -13,7 +14,7 @@ namespace {
 using Side = ui::Schematic::Side;
 
 /// The least that a part must stand, in whole volts.
-std::string at_least(Real voltage_v) { return fixed(ceil(voltage_v - 1e-9), 0) + " Volt"; }
+std::string at_least(Real voltage_v) { return fixed_up(voltage_v, 0) + " Volt"; }
 
 // The capacitors of a voltage doubler, and the voltages of its parts.
 class frmduplicatori final : public ui::Calculator {

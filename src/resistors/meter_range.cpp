@@ -4,6 +4,7 @@
 
 #include "common/physics.h"
 #include "common/preferred_values.h"
+#include "common/rounding.h"
 #include "materials/metals.h"
 #include "materials/round_wire.h"
 
@@ -16,7 +17,7 @@ Real cool_wire_diameter_mm(Real current_a) {
   constexpr double largest_a_per_mm2 = 3;
   constexpr double steps_per_mm = 10;
   const Real exact_mm = sqrt(4 * current_a / (largest_a_per_mm2 * pi));
-  return std::max(ceil(exact_mm * steps_per_mm - 1e-9), Real{1}) / steps_per_mm;
+  return std::max(rounded_up(exact_mm * steps_per_mm), Real{1}) / steps_per_mm;
 }
 
 }  // namespace
