@@ -48,6 +48,16 @@ class FRMETERLAB final : public ui::Window {
   void load() override {
     constexpr int blink_ms = 1000;
     Timer1.start(blink_ms);
+    setFocus();
+  }
+
+ protected:
+  /// Back in front, nothing on it has the focus: Enter would press the door.
+  bool event(QEvent* event) override {
+    if (event->type() == QEvent::WindowActivate) {
+      setFocus();
+    }
+    return Window::event(event);
   }
 
  private:

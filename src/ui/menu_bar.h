@@ -11,7 +11,8 @@
 namespace eterlab::ui {
 
 /// The menu bar of a laid-out window; F10 opens it. Entries are named; an empty parent is the bar
-/// itself.
+/// itself. A letter typed goes to the first entry that begins with it, the same letter again to the
+/// next such one, several letters to the entry that begins with all of them; nothing opens by it.
 class MenuBar final : public QMenuBar {
  public:
   explicit MenuBar(QWidget& window);
@@ -23,11 +24,19 @@ class MenuBar final : public QMenuBar {
   /// it after the last entry.
   void condense_to(int width);
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   /// The menu of that name; the bar itself for an empty one.
   [[nodiscard]] QWidget* container(std::string_view name);
 
+  /// Goes to the entry of the bar or of a menu that the letters typed there ask for, if any does.
+  void go_by_letter(QWidget& menu, QChar letter);
+
   std::map<std::string, QMenu*, std::less<>> menus_;
+  QString typed_;
+  bool is_stepping_ = false;
 };
 
 }  // namespace eterlab::ui

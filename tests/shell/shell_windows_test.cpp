@@ -92,6 +92,62 @@ TEST_F(FRMETERLAB, MenusOpenWithTheMouseAndTheKeyboard) {
   EXPECT_TRUE(is_open("frmvolt"));
 }
 
+TEST_F(FRMETERLAB, LettersGoToEntriesThatBeginWithThem) {
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window.window()));
+  QTest::keyClick(&window.window(), Qt::Key_F10);
+  QAction* volt = bar().actions().front();
+  ASSERT_TRUE(volt->menu()->isVisible());
+  const std::pair<const char*, const char*> table[] = {
+      {"c", "Corrente alternata"},      {"d", "Decibel"},
+      {"d", "Duplicatori di tensione"}, {"d", "Decibel"},
+      {"u", "Duplicatori di tensione"}, {"x", "Duplicatori di tensione"},
+      {"v", "Volt-Amp-Ohm-Watt"},       {"olt r", "Volt R.M.S."},
+  };
+  for (const auto& [typed, entry] : table) {
+    QTest::keyClicks(volt->menu(), typed);
+    EXPECT_EQ(ui::from_qt(volt->menu()->activeAction()->text()), entry) << typed;
+    EXPECT_TRUE(volt->menu()->isVisible());
+  }
+  EXPECT_EQ(QApplication::activePopupWidget(), volt->menu()) << "a submenu opened";
+  // Typed letters are forgotten with the menu.
+  QTest::keyClicks(volt->menu(), "d");
+  QTest::keyClick(volt->menu(), Qt::Key_Escape);
+  QTest::keyClick(&bar(), Qt::Key_Down);
+  QTest::keyClicks(volt->menu(), "u");
+  EXPECT_NE(volt->menu()->activeAction()->text(), "Duplicatori di tensione");
+  QTest::keyClick(volt->menu(), Qt::Key_Escape);
+  // The bar by itself.
+  QTest::keyClicks(&bar(), "l");
+  EXPECT_EQ(bar().activeAction()->text(), "Linee");
+  QTest::keyClicks(&bar(), "l");
+  EXPECT_EQ(bar().activeAction()->text(), "Leggimi");
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+  EXPECT_FALSE(is_open("frmabaut"));
+}
+
+TEST_F(FRMETERLAB, EnterAndSpaceLeaveTheProgramOpen) {
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window.window()));
+  const auto press_both = [&] {
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
+      QTest::keyClick(
+          QApplication::focusWidget() == nullptr ? &window.window() : QApplication::focusWidget(),
+          key);
+    }
+  };
+  press_both();
+  ASSERT_TRUE(is_open("FRMETERLAB"));
+  choose("mnuohm");
+  close("frmleggediohm");
+  window.window().activateWindow();
+  settle();
+  press_both();
+  ASSERT_TRUE(is_open("FRMETERLAB"));
+  QTest::keyClick(&window.window(), Qt::Key_Tab);
+  EXPECT_EQ(window.focus(), "cdmexit");
+  press_both();
+  EXPECT_FALSE(is_open("FRMETERLAB"));
+}
+
 TEST_F(FRMETERLAB, EveryEntryIsReachedByArrowKeys) {
   int reached = 0;
   const std::function<void(QMenu&)> walk = [&](QMenu& menu) {
