@@ -18,14 +18,15 @@ bool is_sign(char c) { return c == '+' || c == '-'; }
 
 /// A number being read, of a text that ends in '\0'.
 struct Scanned {
-  char* end;  ///< of the characters taken
+  char* begin;  ///< behind the sign
+  char* end;    ///< of the characters taken
   bool has_digits = false;
   /// Decimal exponent of the first digit that is not 0, give or take one.
   std::int64_t magnitude = 0;
 };
 
 Scanned take_digits(char* at) {
-  Scanned number{at};
+  Scanned number{at, at};
   bool has_point = false;
   bool significant = false;
   for (; is_digit(*at) || (*at == '.' && !has_point); ++at) {
@@ -64,29 +65,40 @@ void take_exponent(Scanned& number, const char* text_end) {
   *letter = 'e';
 }
 
+/// Takes the number that a text begins with, and leaves out the text's blanks.
+Scanned scan(std::string& characters) {
+  std::erase_if(characters, is_ignored);
+  Scanned number = take_digits(characters.data() + (is_sign(characters[0]) ? 1 : 0));
+  if (number.has_digits) {
+    take_exponent(number, characters.data() + characters.size());
+  }
+  return number;
+}
+
 }  // namespace
 
 Real leading_number(std::string_view text) { return leading_number_if_any(text).value_or(0); }
 
 std::optional<Real> leading_number_if_any(std::string_view text) {
   std::string characters{text};
-  std::erase_if(characters, is_ignored);
-  const bool negative = characters[0] == '-';
-  char* const begin = characters.data() + (is_sign(characters[0]) ? 1 : 0);
-  Scanned number = take_digits(begin);
+  const Scanned number = scan(characters);
   if (!number.has_digits) {
     return std::nullopt;
   }
-  take_exponent(number, characters.data() + characters.size());
-
   double value = 0;
-  if (std::from_chars(begin, number.end, value).ec == std::errc::result_out_of_range) {
+  if (std::from_chars(number.begin, number.end, value).ec == std::errc::result_out_of_range) {
     if (number.magnitude > 0) {
       throw ArithmeticFault{ArithmeticFault::Kind::overflow};
     }
     return Real{0};  // too small for a double
   }
-  return Real{negative ? -value : value};
+  return Real{characters[0] == '-' ? -value : value};
+}
+
+std::string unread_text(std::string_view text) {
+  std::string characters{text};
+  const Scanned number = scan(characters);
+  return number.end;
 }
 
 }  // namespace eterlab

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "common/arithmetic.h"
@@ -18,5 +19,9 @@ Real leading_number(std::string_view text);
 
 /// The same, but nothing for a text that begins with no number.
 std::optional<Real> leading_number_if_any(std::string_view text);
+
+/// What of a text is not read: all from the character on that ends the number, without blanks. A
+/// sign or point by itself is the beginning of a number.
+std::string unread_text(std::string_view text);
 
 }  // namespace eterlab

@@ -28,6 +28,7 @@ class frmcoordinate final : public ui::Window {
 
  public:
   frmcoordinate() : Window{"frmcoordinate", "  da  W W LOCATOR  a  COORDINATE"} {
+    txtwwl.hold_text();
     arrange(ui::column(Label6, ui::form(field(lblwwl, txtwwl)), lbllong, lbllat,
                        ui::buttons(cmdcalcola, cmdesci)),
             72);

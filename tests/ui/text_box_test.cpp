@@ -36,6 +36,45 @@ TEST(TextBox, KeypadDecimalTypesAPoint) {
   }
 }
 
+TEST(TextBox, SaysWhatIsReadWhereReadingStops) {
+  QWidget window;
+  window.resize(600, 100);
+  ui::TextBox box{&window, "txt"};
+  box.move(10, 10);
+  window.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  box.setFocus();
+  const std::pair<const char*, const char*> table[] = {
+      {"7,1", "LETTO: 7  -  I DECIMALI VOGLIONO IL PUNTO"},
+      {"7.1.2", "LETTO: 7.1"},
+      {"15 m", "LETTO: 15"},
+      {"abc", "LETTO: 0"},
+      {" 1 000.5", ""},
+      {"-", ""},
+      {"1e3", ""},
+      {"", ""},
+      {"1e400 ?", ""},
+  };
+  for (const auto& [typed, told] : table) {
+    box = typed;
+    EXPECT_EQ(box.accessibleDescription().toStdString(), told) << typed;
+    const auto* bubble = window.findChild<QWidget*>("txt_letto");
+    ASSERT_EQ(bubble != nullptr, *told != 0) << typed;
+    if (bubble != nullptr) {
+      EXPECT_EQ(bubble->accessibleName().toStdString(), told);
+      EXPECT_TRUE(bubble->isVisible() && window.rect().contains(bubble->geometry()) &&
+                  !bubble->geometry().intersects(box.geometry()));
+    }
+  }
+  box = "7,1";
+  box.clearFocus();
+  EXPECT_EQ(window.findChild<QWidget*>("txt_letto"), nullptr);
+  EXPECT_TRUE(box.has_unread_text());  // its edge still shows it
+  box.hold_text();
+  box = "JN61,";
+  EXPECT_FALSE(box.has_unread_text());
+}
+
 TEST(TextBox, ContextMenuIsItalian) {
   ui::TextBox box{nullptr, "txt"};
   const std::unique_ptr<QMenu> menu{box.createStandardContextMenu()};
