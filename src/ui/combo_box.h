@@ -3,14 +3,18 @@
 #include <QComboBox>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "ui/control.h"
 
 namespace eterlab::ui {
 
-/// A drop-down list under a box that can also be typed in. Typing completes nothing and chooses
-/// nothing: only an entry picked from the list, by mouse or cursor keys, counts as chosen, also
-/// when it is the one already shown.
+class RowList;
+
+/// A drop-down list under a box that can also be typed in. Typing lists the entries that have the
+/// letters in them, and chooses nothing: only an entry picked from either list, by mouse, cursor
+/// keys or Enter, counts as chosen, also when it is the one already shown. Any other text gives way
+/// to that of the last choice when the focus goes.
 class ComboBox final : public QComboBox {
  public:
   /// `text` stands in the box until an entry is chosen.
@@ -35,7 +39,17 @@ class ComboBox final : public QComboBox {
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
+ protected:
+  void focusOutEvent(QFocusEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
+  /// Lists the entries that have what is typed in them.
+  void complete();
+  [[nodiscard]] bool is_completing() const;
+  void hide_completions();
+  void take_completion();
+
   struct Measured {
     int entries = -1;
     QFont font;
@@ -43,6 +57,9 @@ class ComboBox final : public QComboBox {
   };
   mutable Measured measured_;
   int chosen_ = -1;
+  QString at_rest_;  // what stands in the box while nobody types
+  RowList* completion_list_ = nullptr;
+  std::vector<int> completions_;  // the places of the entries listed
 };
 
 }  // namespace eterlab::ui

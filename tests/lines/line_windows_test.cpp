@@ -9,9 +9,13 @@ using frmcaviRG = FormTest;
 // its power, and none of its own: the last one stays.
 TEST_F(frmcaviRG, TellsOfChosenCables) {
   use("mnucavi", "Combo1", "Combo1 lbl1 lbl2 lbl3 lbl4 lbl5 lbl6 lbl7 lbl8");
-  expect("RG 58", "RG 58||||||||");  // typing does not choose
-  window.press(Qt::Key_Down);
+  window.type("Combo1", "RG 4");
+  EXPECT_EQ(results(), "RG 4||||||||");  // typing does not choose
+  window.press(Qt::Key_Return);
   EXPECT_EQ(results(), "RG 4|50|99|5,7|8,7|17,3|1,9|480|0,66");
+  window.type("Combo1", "86");
+  window.press(Qt::Key_Return);
+  EXPECT_EQ(window.text("Combo1 lbl1"), "RG 86|200");
   const std::pair<int, const char*> rows[] = {
       {41, "RG 86|200|25|7,2x17|1,9|ignota|ignota|ignota|0,66 ?"},
       {2, "RG 6|75|66|8,4|8,9|19,4|2,7|0,66|0,66 ?"},

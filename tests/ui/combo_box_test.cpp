@@ -1,6 +1,7 @@
 #include "ui/combo_box.h"
 
 #include <QLineEdit>
+#include <QListWidget>
 #include <QTest>
 
 #include "support/window_test.h"
@@ -17,6 +18,7 @@ class ComboBox : public WindowTest {
     box.on_choose([this] { choices.push_back(box.chosen()); });
     box.move(0, 50);
     window.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     box.setFocus();
   }
 
@@ -61,19 +63,43 @@ TEST_F(ComboBox, CursorKeysInTheOpenListChooseOnEnterOnly) {
   EXPECT_EQ(box.content(), "due");
 }
 
-TEST_F(ComboBox, TypingChoosesNothingWhateverFollows) {
+TEST_F(ComboBox, TypingListsWhatEnterOrAClickThenChooses) {
+  driven.type("box", "RE");
+  EXPECT_EQ(box.content(), "RE") << "completed in place";
+  auto* list = box.findChild<QListWidget*>("box_elenco");
+  ASSERT_NE(list, nullptr);
+  EXPECT_EQ(list->count(), 1);
+  driven.press(Qt::Key_Return);
+  EXPECT_EQ(choices, Choices{3});
+  EXPECT_EQ(box.content(), "tre");
+  EXPECT_FALSE(list->isVisible());
+  driven.type("box", "u");
+  driven.press(Qt::Key_Down);
+  driven.press(Qt::Key_Down);
+  driven.press(Qt::Key_Return);
+  EXPECT_EQ(choices, (Choices{3, 2})) << "uno, due, due";
+  driven.type("box", "n");
+  QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                    list->visualItemRect(list->item(0)).center());
+  EXPECT_EQ(choices, (Choices{3, 2, 0}));
+}
+
+TEST_F(ComboBox, AnyOtherTextGivesWayToTheLastChoice) {
   driven.type("box", "tr");
-  EXPECT_EQ(box.content(), "tr") << "completed";
+  driven.press(Qt::Key_Escape);
+  driven.press(Qt::Key_Return);
+  EXPECT_EQ(box.content(), "tr");
+  other.setFocus();
+  EXPECT_EQ(box.content(), "NUMERI");
   driven.pick("box", 3);
   for (const char* typed : {"uno", "quattro", ""}) {
     driven.type("box", typed);
-    driven.press(Qt::Key_Return);
-    other.setFocus();
-    box.setFocus();
     EXPECT_EQ(box.content(), typed);
+    other.setFocus();
+    EXPECT_EQ(box.content(), "tre");
   }
   EXPECT_EQ(box.count(), 4);
-  EXPECT_EQ(box.chosen(), 3);
+  driven.type("box", "uno");
   driven.pick("box", 3);  // the choice is shown again
   EXPECT_EQ(box.content(), "tre");
   EXPECT_EQ(choices, (Choices{3, 3}));
