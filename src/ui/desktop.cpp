@@ -1,6 +1,6 @@
 #include "ui/desktop.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <cstdlib>
 #include <utility>
 
@@ -64,6 +64,15 @@ bool Desktop::show(std::string_view name, Showing showing) {
   }
   window->bring_forward();
   return true;
+}
+
+bool Desktop::show_in_reach(std::string_view name) {
+  const QWidget* modal = QApplication::activeModalWidget();
+  Window* open = find(name);
+  if (open != nullptr && modal != nullptr && !open->isModal()) {
+    open->hide();  // it is shown again in front of the one that blocks it
+  }
+  return show(name, modal == nullptr ? Showing::modeless : Showing::modal);
 }
 
 Window* Desktop::load(std::string_view name) {

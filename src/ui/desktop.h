@@ -36,6 +36,8 @@ class Desktop {
   /// Shows a window, or brings it forward where it is open already. A name that no window has yet
   /// is answered with a notice box. Returns whether the window is there.
   bool show(std::string_view name, Showing showing = Showing::modeless);
+  /// Shows a window that helps with others, which is modal where a modal one would block it.
+  bool show_in_reach(std::string_view name);
   /// Makes sure that a window exists, without showing it; null when no window has that name.
   Window* load(std::string_view name);
   /// Loads a window if needed and moves it.

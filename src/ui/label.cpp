@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QFontMetricsF>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
 #include <algorithm>
@@ -14,6 +15,8 @@
 #include "ui/desktop.h"
 #include "ui/text.h"
 #include "ui/theme.h"
+#include "ui/window.h"
+#include "ui/window_text.h"
 
 namespace eterlab::ui {
 
@@ -33,6 +36,10 @@ Label::Label(Parent parent, std::string_view name, std::string_view text, Toolti
 Label& Label::operator=(std::string_view new_text) {
   const bool is_new = from_qt(text()) != new_text;
   setText(to_qt(new_text));
+  is_fresh_ = true;
+  if (std::exchange(is_dimmed_, false)) {
+    setPalette({});
+  }
   name_prompted();
   if (is_new && tells_result()) {
     announce();
@@ -41,6 +48,20 @@ Label& Label::operator=(std::string_view new_text) {
 }
 
 std::string Label::content() const { return from_qt(text()); }
+
+void Label::dim_if_outdated() {
+  const bool has_own_colour = testAttribute(Qt::WA_SetPalette);
+  if (is_fresh_ || has_own_colour || text().isEmpty()) {
+    return;
+  }
+  constexpr int dimmed_alpha = 120;
+  QPalette dimmed;
+  QColor colour = palette().color(foregroundRole());
+  colour.setAlpha(dimmed_alpha);
+  dimmed.setColor(foregroundRole(), colour);
+  setPalette(dimmed);
+  is_dimmed_ = true;
+}
 
 void Label::reserve(std::string_view longest_text) {
   const QString shown = text();
@@ -164,12 +185,30 @@ void Label::contextMenuEvent(QContextMenuEvent* event) {
   }
   auto* menu = new QMenu{this};
   menu->setAttribute(Qt::WA_DeleteOnClose);
-  menu->addAction("&Copia", this, [this] {
-    QApplication::clipboard()->setText(hasSelectedText() ? selectedText() : text());
-  });
-  menu->addAction("Seleziona tutto", this,
+  menu->addAction("&Copia", this, &Label::copy);
+  const QString number = to_qt(number_in(from_qt(hasSelectedText() ? selectedText() : text())));
+  menu->addAction("Copia il &numero", this,
+                  [number] { QApplication::clipboard()->setText(number); })
+      ->setEnabled(!number.isEmpty());
+  if (const auto* around = dynamic_cast<const Window*>(window()); around != nullptr) {
+    menu->addAction("Copia &tutto", this,
+                    [around] { QApplication::clipboard()->setText(to_qt(window_text(*around))); });
+  }
+  menu->addAction("&Seleziona tutto", this,
                   [this] { setSelection(0, static_cast<int>(text().length())); });
   menu->popup(event->globalPos());
+}
+
+void Label::keyPressEvent(QKeyEvent* event) {
+  if (event == QKeySequence::Copy && can_be_copied()) {
+    copy();
+  } else {
+    QLabel::keyPressEvent(event);
+  }
+}
+
+void Label::copy() const {
+  QApplication::clipboard()->setText(hasSelectedText() ? selectedText() : text());
 }
 
 void Label::mouseReleaseEvent(QMouseEvent* event) {

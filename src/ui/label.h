@@ -39,6 +39,15 @@ class Label : public QLabel {
   /// For a label of an array; the others say their role by their type.
   void set_role(Role role);
   [[nodiscard]] Role role() const { return role_; }
+  /// A result, a value on a drawing or a cell of a table.
+  [[nodiscard]] bool can_be_copied() const { return tells_result() || role_ == Role::cell; }
+
+  /// A result that belongs to the inputs, for all that is known.
+  [[nodiscard]] bool is_fresh_result() const { return can_be_copied() && is_fresh_; }
+  /// The inputs have changed. Until a new text is written, even the same, it can be dimmed.
+  void outdate() { is_fresh_ = false; }
+  /// But for a label whose colour the design gives.
+  void dim_if_outdated();
 
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
@@ -47,16 +56,17 @@ class Label : public QLabel {
  protected:
   /// Of a result: to copy what is selected, or all of it.
   void contextMenuEvent(QContextMenuEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
  private:
   [[nodiscard]] bool tells_result() const;
-  [[nodiscard]] bool can_be_copied() const { return tells_result() || role_ == Role::cell; }
   /// Room for what an empty label will say, so that the window keeps its size then.
   [[nodiscard]] int at_least_a_line(int height) const;
   void announce();
+  void copy() const;
   void name_prompted();
 
   /// The room that the text takes within this width, which limits only what is wrapped.
@@ -69,6 +79,8 @@ class Label : public QLabel {
 
   Role role_ = Role::text;
   mutable Measured measured_;
+  bool is_fresh_ = false;  // never before it is written
+  bool is_dimmed_ = false;
   QWidget* prompted_ = nullptr;
   QString unprompted_name_;
   /// Written while it was hidden.

@@ -2,6 +2,9 @@
 
 #include <QBoxLayout>
 #include <QGridLayout>
+#include <QLabel>
+#include <algorithm>
+#include <utility>
 
 #include "ui/combo_box.h"
 #include "ui/label.h"
@@ -29,18 +32,27 @@ QGridLayout* new_grid() {
   return grid;
 }
 
-/// The focusable controls of a layout, in reading order.
-void collect(const QLayout& layout, QWidgetList& controls) {
+/// What stands on a drawing.
+QWidgetList read_by_place(const QWidget& drawing) {
+  QList<QLabel*> labels = drawing.findChildren<QLabel*>(Qt::FindDirectChildrenOnly);
+  std::ranges::sort(labels, {}, [](const QLabel* label) {
+    return std::pair{label->y(), label->x()};
+  });
+  return {labels.begin(), labels.end()};
+}
+
+/// The widgets of a layout in reading order, those that have a layout before what is in it.
+void collect(const QLayout& layout, QWidgetList& widgets) {
   for (int i = 0; i < layout.count(); ++i) {
     QLayoutItem& item = *layout.itemAt(i);
     if (QLayout* inner = item.layout(); inner != nullptr) {
-      collect(*inner, controls);
+      collect(*inner, widgets);
     } else if (QWidget* widget = item.widget(); widget != nullptr) {
-      if (widget->focusPolicy() != Qt::NoFocus) {
-        controls.append(widget);
-      }
+      widgets.append(widget);
       if (widget->layout() != nullptr) {
-        collect(*widget->layout(), controls);
+        collect(*widget->layout(), widgets);
+      } else {
+        widgets += read_by_place(*widget);
       }
     }
   }
@@ -182,9 +194,19 @@ Item table(const std::vector<Label*>& column_heads, const std::vector<TableRow>&
   return Item{grid};
 }
 
+QWidgetList widgets_in_reading_order(const QWidget& window) {
+  QWidgetList widgets;
+  collect(*window.layout(), widgets);
+  return widgets;
+}
+
 void set_tab_order(QWidget& window) {
   QWidgetList controls{&window};
-  collect(*window.layout(), controls);
+  for (QWidget* widget : widgets_in_reading_order(window)) {
+    if (widget->focusPolicy() != Qt::NoFocus) {
+      controls.append(widget);
+    }
+  }
   // The toolkit passes over what takes no focus; the window is where the order begins.
   const Qt::FocusPolicy policy = window.focusPolicy();
   window.setFocusPolicy(Qt::TabFocus);

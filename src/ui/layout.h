@@ -109,6 +109,9 @@ struct TableRow {
 /// Boxes in rows under the heads of their columns, named for screen readers by both heads.
 Item table(const std::vector<Label*>& column_heads, const std::vector<TableRow>& rows);
 
+/// All that a laid-out window shows, also what stands on its drawings.
+QWidgetList widgets_in_reading_order(const QWidget& window);
+
 /// Makes the reading order of a laid-out window its tab order.
 void set_tab_order(QWidget& window);
 

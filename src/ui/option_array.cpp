@@ -8,12 +8,14 @@
 #include "ui/desktop.h"
 #include "ui/text.h"
 #include "ui/theme.h"
+#include "ui/window.h"
 
 namespace eterlab::ui {
 
 Option::Option(Parent parent, std::string_view name, std::string_view caption)
     : QRadioButton{to_qt(caption), parent.widget()} {
   set_up(*this, name, {});
+  connect(this, &QRadioButton::clicked, this, [this] { outdate_results(*this); });
 }
 
 std::string Option::caption() const { return from_qt(text()); }

@@ -1,11 +1,16 @@
 #include "ui/printing.h"
 
+#include <QApplication>
+#include <QDate>
+#include <QLocale>
 #include <QPainter>
 #include <QPicture>
+#include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QWidget>
 #include <algorithm>
+#include <cstdint>
 #include <utility>
 
 #include "ui/message_box.h"
@@ -37,8 +42,25 @@ QPicture picture_of(QWidget& window) {
   return picture;
 }
 
+/// Title and date, over a line across the page; returns the room that they take.
+double print_heading(const QWidget& window, QPainter& painter, const QSizeF& page) {
+  painter.setFont(QFont{window.font().family(), QApplication::font().pointSize()});
+  const double line = painter.fontMetrics().height();
+  const QString date = QLocale{QLocale::Italian}.toString(QDate::currentDate(), "d MMMM yyyy");
+  const QRectF room{0, 0, page.width(), line};
+  const double title_width = page.width() - painter.fontMetrics().horizontalAdvance(date) - line;
+  painter.drawText(room, Qt::AlignRight, date);
+  painter.drawText(room, Qt::AlignLeft,
+                   painter.fontMetrics().elidedText(window.windowTitle().simplified(),
+                                                    Qt::ElideRight, static_cast<int>(title_width)));
+  painter.drawLine(QPointF{0, 1.3 * line}, QPointF{page.width(), 1.3 * line});
+  return 2 * line;
+}
+
+enum class Above : std::uint8_t { none, title_and_date };
+
 /// As large as the page allows in both directions, in the middle of its top.
-bool print(QWidget& window, QPrinter& printer) {
+bool print(QWidget& window, QPrinter& printer, Above above = Above::none) {
   printer.setDocName(window.windowTitle());
   const QPicture picture = picture_of(window);
   QPainter painter;
@@ -48,7 +70,12 @@ bool print(QWidget& window, QPrinter& printer) {
   // The painter shows a picture in its size on the screen, whatever the printer's dots are.
   const QSizeF image{1.0 * window.width() * printer.logicalDpiX() / picture.logicalDpiX(),
                      1.0 * window.height() * printer.logicalDpiY() / picture.logicalDpiY()};
-  const QSizeF page = printer.pageRect(QPrinter::DevicePixel).size();
+  QSizeF page = printer.pageRect(QPrinter::DevicePixel).size();
+  if (above == Above::title_and_date) {
+    const double taken = print_heading(window, painter, page);
+    painter.translate(0, taken);
+    page.rheight() -= taken;
+  }
   const double scale = std::min(page.width() / image.width(), page.height() / image.height());
   painter.translate((page.width() - image.width() * scale) / 2, 0);
   painter.scale(scale, scale);
@@ -57,14 +84,41 @@ bool print(QWidget& window, QPrinter& printer) {
   return painter.end() && printer.printerState() != QPrinter::Error;
 }
 
+void print_or_say_so(QWidget& window, QPrinter* printer, Above above) {
+  if (printer == nullptr) {
+    message_box(&window, Icon::exclamation, "MESSAGGIO DI ERRORE", "NESSUNA STAMPANTE DISPONIBILE");
+  } else if (!print(window, *printer, above)) {
+    message_box(&window, Icon::exclamation, "MESSAGGIO DI ERRORE", "STAMPA NON RIUSCITA");
+  }
+}
+
+void set_orientation(QPrinter& printer, const QWidget& window) {
+  printer.setPageOrientation(window.width() > window.height() ? QPageLayout::Landscape
+                                                              : QPageLayout::Portrait);
+}
+
 }  // namespace
 
 void print_window(QWidget& window) {
   const std::unique_ptr<QPrinter> printer = other_source() ? other_source()() : default_printer();
-  if (printer == nullptr) {
-    message_box(&window, Icon::exclamation, "MESSAGGIO DI ERRORE", "NESSUNA STAMPANTE DISPONIBILE");
-  } else if (!print(window, *printer)) {
-    message_box(&window, Icon::exclamation, "MESSAGGIO DI ERRORE", "STAMPA NON RIUSCITA");
+  print_or_say_so(window, printer.get(), Above::none);
+}
+
+void print_with_dialog(QWidget& window) {
+  if (other_source()) {
+    const std::unique_ptr<QPrinter> printer = other_source()();
+    if (printer != nullptr) {
+      set_orientation(*printer, window);
+    }
+    print_or_say_so(window, printer.get(), Above::title_and_date);
+    return;
+  }
+  QPrinter printer{QPrinter::HighResolution};
+  set_orientation(printer, window);
+  QPrintDialog dialog{&printer, &window};
+  dialog.setWindowTitle("STAMPA");
+  if (dialog.exec() == QDialog::Accepted) {
+    print_or_say_so(window, &printer, Above::title_and_date);
   }
 }
 

@@ -14,10 +14,14 @@ namespace eterlab::ui {
 /// the page, says so in a message box.
 void print_window(QWidget& window);
 
+/// Lets the user choose the printer, or a file, and the paper; then prints the window under its
+/// title and the date. Upright or across, as suits the window's shape.
+void print_with_dialog(QWidget& window);
+
 /// Gives the printer to print on, null where there is none.
 using PrinterSource = std::function<std::unique_ptr<QPrinter>()>;
-/// Prints on another printer than the system's default one from now on; an empty source goes back
-/// to that.
+/// Prints on another printer than the system's default one from now on, and without asking; an
+/// empty source goes back to that.
 void set_printer_source(PrinterSource source);
 
 }  // namespace eterlab::ui

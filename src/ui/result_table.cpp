@@ -82,6 +82,14 @@ Label& ResultTable::at(int row, int column) const {
   return *cells_[static_cast<std::size_t>(index)];
 }
 
+QStringList ResultTable::heads() const {
+  QStringList heads;
+  for (const auto& head : heads_) {
+    heads += head->text();
+  }
+  return heads;
+}
+
 void ResultTable::reserve(int column, std::string_view longest_text) const {
   at(0, column).reserve(longest_text);
 }

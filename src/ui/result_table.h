@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QStringList>
 #include <QWidget>
 #include <cstdint>
 #include <initializer_list>
@@ -35,6 +36,8 @@ class ResultTable final : public QWidget {
   /// A cell, by its row and column.
   [[nodiscard]] Label& at(int row, int column) const;
   [[nodiscard]] int rows() const { return rows_; }
+  [[nodiscard]] int columns() const { return columns_; }
+  [[nodiscard]] QStringList heads() const;
   /// Keeps room for this text in a column.
   void reserve(int column, std::string_view longest_text) const;
 

@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "ui/icons.h"
+#include "ui/text_box.h"
 
 namespace eterlab::ui::theme {
 
@@ -23,6 +24,8 @@ constexpr double note_scale = 0.92;
 constexpr double result_scale = 1.08;
 /// Opacity of quiet text out of 255, dark enough for tired eyes on a light window.
 constexpr int quiet_alpha = 200;
+
+constexpr Colour not_read{0xc8, 0x50, 0x00};  // the edge of a box that holds more than is read
 
 /// Opacity of outlines that the style leaves too faint.
 constexpr int outline_alpha = 150;
@@ -65,6 +68,14 @@ class Style final : public QProxyStyle {
     } else if (element == PE_FrameLineEdit && frame != nullptr) {
       const QStyleOptionFrame visible = with_visible_outline(*frame);
       QProxyStyle::drawPrimitive(element, &visible, painter, widget);
+      const auto* text_box = dynamic_cast<const TextBox*>(widget);
+      if (text_box != nullptr && text_box->has_unread_text()) {
+        draw_edge(*painter, frame->rect, to_qt_colour(legible(not_read, window_of(*option))));
+      } else if (frame->state.testFlag(State_HasFocus)) {
+        draw_edge(*painter, frame->rect, frame->palette.color(QPalette::Highlight));
+      }
+    } else if (element == PE_FrameFocusRect) {
+      draw_edge(*painter, option->rect, option->palette.color(QPalette::Highlight));
     } else if (element == PE_FrameGroupBox && box != nullptr) {
       draw_frame(*option, *painter, *box);
     } else {
@@ -97,6 +108,12 @@ class Style final : public QProxyStyle {
       QStyleOptionMenuItem marked{*menu};
       marked.state.setFlag(State_Sunken, marked.state.testFlag(State_Selected));
       QProxyStyle::drawControl(element, &marked, painter, widget);
+    } else if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+               button != nullptr && element == CE_PushButtonBevel) {
+      // What stands out is the control that has the focus, not the one that Enter presses.
+      QStyleOptionButton plain{*button};
+      plain.features.setFlag(QStyleOptionButton::DefaultButton, false);
+      QProxyStyle::drawControl(element, &plain, painter, widget);
     } else {
       QProxyStyle::drawControl(element, option, painter, widget);
     }
@@ -118,14 +135,29 @@ class Style final : public QProxyStyle {
     switch (hint) {
       case SH_DialogButtonBox_ButtonsHaveIcons:
         return 0;  // "OK" needs no picture
-      case SH_Menu_KeyboardSearch:
-        return 1;  // captions have no underlined letters to type
       default:
         return QProxyStyle::styleHint(hint, option, widget, data);
     }
   }
 
  private:
+  static QColor window_of(const QStyleOption& option) {
+    return option.palette.color(QPalette::Window);
+  }
+  static QColor to_qt_colour(Colour colour) { return {colour.red, colour.green, colour.blue}; }
+
+  static void draw_edge(QPainter& painter, const QRect& rect, const QColor& colour) {
+    constexpr double width = 2;
+    constexpr double corner_radius = 2;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen({colour, width});
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF{rect}.adjusted(width / 2, width / 2, -width / 2, -width / 2),
+                            corner_radius, corner_radius);
+    painter.restore();
+  }
+
   static void draw_frame(const QStyleOption& option, QPainter& painter, const QGroupBox& box) {
     constexpr double half_a_line = 0.5;
     constexpr double corner_radius = 3;
@@ -236,6 +268,13 @@ QString installed_family(const QString& designed) {
     return designed;
   }
   return designed == "Times New Roman" ? "Liberation Serif" : QApplication::font().family();
+}
+
+int title_width(const QString& title) {
+  constexpr int characters_of_buttons = 22;
+  QFont bold = QApplication::font();
+  bold.setBold(true);
+  return QFontMetrics{bold}.horizontalAdvance(title) + characters(characters_of_buttons);
 }
 
 int characters(int count) { return QFontMetrics{QApplication::font()}.averageCharWidth() * count; }

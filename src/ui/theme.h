@@ -35,6 +35,9 @@ QString installed_family(const QString& designed);
 /// Width of a text of so many average characters in the user's font.
 int characters(int count);
 
+/// A window so wide shows its title whole, between the buttons that a desktop puts beside it.
+int title_width(const QString& title);
+
 /// How much larger the user's font is than the usual one, at least 1; what the design places at
 /// given coordinates moves apart with it.
 double font_scale();

@@ -3,8 +3,11 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLayout>
+#include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
+#include <QTimer>
 #include <algorithm>
 #include <vector>
 
@@ -15,12 +18,14 @@
 #include "ui/text.h"
 #include "ui/text_box.h"
 #include "ui/theme.h"
+#include "ui/window_keys.h"
 
 namespace eterlab::ui {
 
 Window::Window(std::string_view name, std::string_view title) {
   setObjectName(to_qt(name));
   setWindowTitle(to_qt(title));
+  add_keys_of_every_window(*this);
 }
 
 void Window::bring_forward() {
@@ -36,7 +41,8 @@ void Window::arrange(const Item& contents, int width_in_characters) {
   contents.fill(*this, theme::margin());
   layout()->setSizeConstraint(QLayout::SetNoConstraint);
   set_tab_order(*this);
-  least_width_ = theme::characters(width_in_characters);
+  least_width_ =
+      std::max(theme::characters(width_in_characters), theme::title_width(windowTitle()));
   least_ = {least_width_, 0};
   fit();
 }
@@ -66,7 +72,10 @@ void Window::fit() {
 
 void Window::refuse(QWidget& focus, std::string_view text, std::string_view title) {
   message_box(this, Icon::exclamation, title, text);
-  focus.setFocus();
+  focus.setFocus(Qt::TabFocusReason);
+  if (auto* box = qobject_cast<QLineEdit*>(&focus); box != nullptr) {
+    box->selectAll();
+  }
 }
 
 void Window::open(std::string_view window, Showing showing) {
@@ -101,6 +110,32 @@ void Window::blank_results() const {
     if (auto* result = dynamic_cast<Blankable*>(widget); result != nullptr) {
       result->blank();
     }
+  }
+}
+
+void Window::outdate_results() {
+  std::vector<QPointer<Label>> outdated;
+  for (QWidget* widget : findChildren<QWidget*>()) {
+    if (auto* label = dynamic_cast<Label*>(widget); label != nullptr && label->is_fresh_result()) {
+      label->outdate();
+      outdated.emplace_back(label);
+    }
+  }
+  if (!outdated.empty()) {
+    // What the change itself computes is not to flicker.
+    QTimer::singleShot(0, this, [outdated = std::move(outdated)] {
+      for (const QPointer<Label>& label : outdated) {
+        if (label != nullptr) {
+          label->dim_if_outdated();
+        }
+      }
+    });
+  }
+}
+
+void outdate_results(const QWidget& control) {
+  if (auto* window = dynamic_cast<Window*>(control.window()); window != nullptr) {
+    window->outdate_results();
   }
 }
 

@@ -20,7 +20,8 @@ class TextBox;
 /// A top-level window. Each kind is a class of its own, named as the window, that is created by the
 /// Desktop in its design-time state and destroyed when it is closed.
 ///
-/// Enter presses the window's compute button, Esc closes the window.
+/// Enter presses the window's compute button, Esc closes the window; window_keys.h tells the
+/// others.
 class Window : public QWidget {
  public:
   Window(std::string_view name, std::string_view title);
@@ -33,6 +34,10 @@ class Window : public QWidget {
   /// In front of the other windows, also from a minimized state. A window that stands with another
   /// one extends this.
   virtual void bring_forward();
+
+  /// The user has changed an input: results that are not computed anew by that are dimmed until
+  /// they are.
+  void outdate_results();
 
   /// Moves this window, moves the companion, shows it.
   void open_companion(std::string_view companion, TwipsPoint caller_corner,
@@ -89,5 +94,8 @@ class Window : public QWidget {
   bool was_shown_ = false;
   bool escape_closes_ = true;
 };
+
+/// The same for the window that a control stands in.
+void outdate_results(const QWidget& control);
 
 }  // namespace eterlab::ui

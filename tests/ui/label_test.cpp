@@ -9,6 +9,9 @@
 #include <QMenu>
 #include <QTest>
 
+#include "common/regional_settings.h"
+#include "ui/window_text.h"
+
 namespace eterlab {
 namespace {
 
@@ -50,8 +53,28 @@ TEST_F(ResultText, IsCopiedByContextMenuWholeOrAsSelected) {
   double_click();
   choose(0);
   EXPECT_EQ(copied(), "MHz");
-  choose(1);
+  choose(2);
   EXPECT_EQ(result.selectedText(), "MHz 123");
+}
+
+TEST_F(ResultText, ItsNumberIsCopiedAsOneTypesIt) {
+  set_regional_settings({",", ".", 3, 3, 2});
+  const std::pair<const char*, const char*> table[] = {
+      {"C1 = 1.234.567,25 pF", "1234567.25"},
+      {"VALORE E24 = -4,7E-12 F", "-4.7E-12"},
+      {"16 SPIRE, 3 STRATI", "16"},
+      {"NUCLEO T50", ""},
+      {"L = 12.", "12"},
+      {"R1 = OLTRE 20", "20"},
+  };
+  for (const auto& [told, number] : table) {
+    EXPECT_EQ(ui::number_in(told), number) << told;
+  }
+  set_regional_settings({",", "\u202f", 3, 3, 2});
+  EXPECT_EQ(ui::number_in("= 1\u202f234,5"), "1234.5");
+  set_regional_settings({});
+  choose(1);
+  EXPECT_EQ(copied(), "123");
 }
 
 }  // namespace

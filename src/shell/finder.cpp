@@ -1,0 +1,143 @@
+#include "shell/finder.h"
+
+#include <QStringList>
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "shell/window_words.h"
+#include "ui/text.h"
+
+namespace eterlab::shell {
+
+namespace {
+
+/// Small letters without accents; what is neither letter nor digit parts words, but for what joins
+/// numbers: "1:1", "5/8", "2.4".
+QStringList words_of(std::string_view text) {
+  QString folded;
+  for (const QChar letter : ui::to_qt(text).normalized(QString::NormalizationForm_KD).toLower()) {
+    if (!letter.isMark()) {
+      folded += letter.isLetterOrNumber() || letter == ':' || letter == '/' || letter == '.'
+                    ? letter
+                    : QChar{' '};
+    }
+  }
+  QStringList words;
+  for (QString word : folded.split(' ', Qt::SkipEmptyParts)) {
+    while (word.endsWith('.') || word.endsWith(':')) {
+      word.chop(1);
+    }
+    if (!word.isEmpty()) {
+      words += word;
+    }
+  }
+  return words;
+}
+
+const MenuEntry* find_menu(std::string_view name) {
+  const auto all = menu_catalogue();
+  const auto found = std::ranges::find(all, name, &MenuEntry::name);
+  return found == all.end() ? nullptr : &*found;
+}
+
+/// "Linee > Balun e Un-Un"; empty on the bar itself.
+std::string path_of(const MenuEntry& entry) {
+  const MenuEntry* menu = find_menu(entry.parent);
+  if (menu == nullptr) {
+    return {};
+  }
+  const std::string above = path_of(*menu);
+  return (above.empty() ? "" : above + " > ") + std::string{menu->caption};
+}
+
+const WindowWords* words_of_window(std::string_view window) {
+  const auto all = window_words();
+  const auto found = std::ranges::find(all, window, &WindowWords::window);
+  return found == all.end() ? nullptr : &*found;
+}
+
+/// What an entry is looked for in.
+struct Indexed {
+  const MenuEntry* entry;
+  QStringList caption;
+  QStringList others;
+};
+
+std::vector<Indexed> made_index() {
+  std::vector<Indexed> index;
+  for (const MenuEntry& entry : menu_catalogue()) {
+    if (!entry.is_submenu()) {
+      QStringList others = words_of(path_of(entry));
+      if (const WindowWords* window = words_of_window(entry.window); window != nullptr) {
+        others += words_of(window->title) + words_of(window->words);
+      }
+      index.push_back({&entry, words_of(entry.caption), others});
+    }
+  }
+  return index;
+}
+
+/// Singular and plural begin alike.
+QString stem(const QString& word) {
+  constexpr qsizetype shortest = 4;
+  const bool is_long = word.size() >= shortest && QStringLiteral("aeiou").contains(word.back());
+  return is_long ? word.chopped(1) : word;
+}
+
+/// How far a word is from being the first that an entry is known by; none where it is not there.
+std::optional<int> distance(const QString& word, const Indexed& indexed) {
+  const auto begins = [&word](const QString& other) { return other.startsWith(word); };
+  const auto holds = [&word](const QString& other) { return other.contains(word); };
+  constexpr qsizetype shortest_inside = 4;
+  if (std::ranges::any_of(indexed.caption, begins)) {
+    return 0;
+  }
+  if (std::ranges::any_of(indexed.others, begins)) {
+    return 1;
+  }
+  if (word.size() >= shortest_inside &&
+      (std::ranges::any_of(indexed.caption, holds) || std::ranges::any_of(indexed.others, holds))) {
+    return 2;
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::vector<const MenuEntry*> find_entries(std::string_view text) {
+  static const std::vector<Indexed> index = made_index();
+  QStringList words = words_of(text);
+  std::ranges::transform(words, words.begin(), stem);
+  std::vector<std::pair<int, const MenuEntry*>> found;
+  for (const Indexed& indexed : index) {
+    int sum = 0;
+    const bool has_all = std::ranges::all_of(words, [&](const QString& word) {
+      const auto away = distance(word, indexed);
+      sum += away.value_or(0);
+      return away.has_value();
+    });
+    if (has_all) {
+      found.emplace_back(sum, indexed.entry);
+    }
+  }
+  std::ranges::stable_sort(found, {}, &std::pair<int, const MenuEntry*>::first);
+  std::vector<const MenuEntry*> entries;
+  for (const auto& [away, entry] : found) {
+    entries.push_back(entry);
+  }
+  return entries;
+}
+
+std::string told(const MenuEntry& entry) {
+  const std::string path = path_of(entry);
+  const std::string caption = ui::from_qt(ui::to_qt(entry.caption).simplified());
+  return path.empty() ? caption : caption + "   (" + path + ")";
+}
+
+std::string_view title_of(const MenuEntry& entry) {
+  const WindowWords* window = words_of_window(entry.window);
+  return window == nullptr ? std::string_view{} : window->title;
+}
+
+}  // namespace eterlab::shell
