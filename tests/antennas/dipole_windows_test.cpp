@@ -32,7 +32,7 @@ TEST_F(frmtrappolata, LoadsAShortDipole) {
   expect_refusal("7.1|12|3|0.09", "txtdiametro", diameter, error);
   expect_refusal("7.1|1E13|3|105.5", "txtlunghezza", too_long, notice);
   expect_refusal("7.1|21|3|2", "txtlunghezza", too_long, notice);
-  expect_refusal("7.1|20.551|3|2", "txtlunghezza", too_long, notice);  // longer at this cut
+  expect_refusal("7.1|20.5518|1.6|2", "txtlunghezza", too_long, notice);  // longer at this cut
   expect_refusal("7.1|4.2|3|2", "txtlunghezza", "DIPOLO TROPPO CORTO: MENO DI 1/10 DI LAMBDA",
                  notice);
   expect_refusal("7.1|12|5.41|2", "txtdistanza", "DISTANZA ECCESSIVA", notice);
@@ -84,8 +84,8 @@ TEST_F(frmantmultigamma, HasATrapForEveryBandButTheLowest) {
       "IL CONDENSATORE DELLA TRAPPOLA A 7,1 MHz DEVE STARE TRA 23 E 448 pF";
   expect_refusal("0|7.1|3.65|1000|2", "txtc1", capacitor, error);
   expect_refusal("0|7.1|3.65|22.4|2", "txtc1", capacitor, error);
-  expect_refusal("0|7.1|6.3|23|2", "txtc1", "LE TRAPPOLE CARICANO TROPPO: AUMENTARE I CONDENSATORI",
-                 notice);
+  expect_refusal("0|7.1|6.39|23|60", "txtc1",
+                 "LE TRAPPOLE CARICANO TROPPO: AUMENTARE I CONDENSATORI", notice);
 }
 
 TEST_F(frmantmultigamma, HasThreeBandsToo) {
@@ -124,7 +124,7 @@ TEST_F(frmantcoaxmulti, WindsTrapsOfCable) {
                  "SUPPORTO TROPPO STRETTO PER QUESTO CAVO");
   expect_refusal("RG 58 C/U|0|50|28|200|2", "txtsupporto",
                  "SUPPORTO TROPPO GRANDE: MENO DI 2 SPIRE");
-  expect_refusal("RG 62 A/U|0|7.05|6.3|200|2", "txtsupporto",
+  expect_refusal("RG 62 A/U|0|7.05|6.34|60|105", "txtsupporto",
                  "LA TRAPPOLA CARICA TROPPO: COLLEGARE L'USCITA ALLA CALZA O RIDURRE IL SUPPORTO",
                  notice);
 }

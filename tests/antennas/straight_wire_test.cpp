@@ -193,10 +193,11 @@ TEST(StraightWire, AgreesWithNec2) {
     if (!expected) {
       GTEST_SKIP() << "nec2c is not installed";
     }
+    const double load_place_m = 2 * half_m / nec2_segments * load_segment;
     const Complex result = dipole_impedance_ohm(std::array<Real, 2>{load_place_m, half_m},
                                                 std::array<Real, 1>{load_reactance_ohm}, conductor);
     const auto reflection = [](Complex load_ohm) { return (load_ohm - 600) / (load_ohm + 600); };
-    EXPECT_LT(abs(reflection(result) - reflection(*expected)), 0.01)
+    EXPECT_LT(abs(reflection(result) - reflection(*expected)), 0.02)
         << half_m << " m: " << result.real().value() << " + j " << result.imaginary().value()
         << ", not " << expected->real().value() << " + j " << expected->imaginary().value();
   }

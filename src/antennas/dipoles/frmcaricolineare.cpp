@@ -49,14 +49,14 @@ class frmcaricolineare final : public DipoleWindow {
   frmcaricolineare() : DipoleWindow{"frmcaricolineare", "ACCORCIAMENTO CON CARICO LINEARE"} {
     open_warning_by(cmdavviso);
     Frame1.arrange(ui::across(Option1));
-    lay_out(ui::column(ui::row(ui::column(Frame1,
-                                          ui::form(txtfrequenza, txtlunghezza, txtdiametro, txtfilo,
-                                                   txtdistanza),
-                                          lblcarico, lblfilo, lblz0, lblreattanza, lblresistenza,
-                                          lblrendimento, ui::stretch()),
-                               ui::column(ui::alternatives(drawing, drawing2), ui::stretch())),
-                       Label7),
-            {&cmdavviso});
+    lay_out(
+        ui::column(ui::row(ui::column(Frame1,
+                                      ui::form(txtfrequenza, txtlunghezza, txtdiametro, txtfilo,
+                                               txtdistanza),
+                                      ui::stretch()),
+                           ui::alternatives(drawing, drawing2)),
+                   lblcarico, lblfilo, lblz0, lblreattanza, lblresistenza, lblrendimento, Label7),
+        {&cmdavviso});
 
     Option1.preset(0);
     offer(0);
@@ -76,7 +76,7 @@ class frmcaricolineare final : public DipoleWindow {
   }
 
   // Of the pair, from the feed.
-  static constexpr double beginning = 1.2;
+  static constexpr double beginning = half_feed_gap;
   static constexpr double half_spacing = 2.2;
   static constexpr double far_end = 12;
   static constexpr double tip = 22;

@@ -51,10 +51,9 @@ class frmmultigammaott final : public DipoleWindow {
     draw();
     table.reserve(0, "1.000,000 MHz");
     table.reserve(1, "12.345 - j12.345");
-    lay_out(ui::column(
-                ui::row(ui::stretch(), drawing, ui::stretch()),
-                ui::row(ui::form(txtf1, txtf2, txtf3, txtdiametro), ui::stretch()),
-                ui::row(ui::column(lblinduttanza, lblcapacita, lbltotale, ui::stretch()), table)),
+    lay_out(ui::column(ui::row(ui::stretch(), drawing, ui::stretch()),
+                       ui::row(ui::form(txtf1, txtf2, txtf3, txtdiametro), ui::stretch()),
+                       lblinduttanza, lblcapacita, lbltotale, table),
             {&cmdchiamabobine, &cmdavviso});
   }
 
