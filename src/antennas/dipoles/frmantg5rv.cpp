@@ -32,7 +32,7 @@ class frmantg5rv final : public DipoleWindow {
   ui::Result lblantenna{this, "lblantenna"};
   ui::Result lblbraccio{this, "lblbraccio"};
   ui::Result lbllinea{this, "lbllinea"};
-  ui::Schematic drawing{this, "drawing", 50, 27};
+  ui::Schematic drawing{this, "drawing", 39, 27};
   ui::Value lbltratto1{drawing, "lbltratto1"};
   ui::Value lbltratto2{drawing, "lbltratto2"};
   ui::Value lbltratto3{drawing, "lbltratto3"};
@@ -79,8 +79,8 @@ class frmantg5rv final : public DipoleWindow {
   void draw() {
     using enum ui::Schematic::Side;
     constexpr double wire = 5.5;
-    constexpr double middle = 25;
-    constexpr double half = 22;
+    constexpr double middle = 19.5;
+    constexpr double half = 16.5;
     constexpr double dimension = 3;
     constexpr double line_end = 17;
     constexpr double choke_end = 22;
@@ -105,7 +105,7 @@ class frmantg5rv final : public DipoleWindow {
     drawing.extension({middle + half_feed_gap + 0.8, line_end}, {beside + 0.6, line_end})
         .dimension({beside, wire + 0.3}, {beside, line_end})
         .label(lbltratto3, {beside, (wire + line_end) / 2}, right);
-    drawing.mark({middle + 2.5, (line_end + 2 + choke_end) / 2}, "BALUN DI CORRENTE", right);
+    drawing.mark({middle + 2.5, (line_end + 2 + choke_end) / 2}, "BALUN IN CAVO", right);
   }
 
   void compute() override {
