@@ -1,10 +1,20 @@
 #include <benchmark/benchmark.h>
 
+#include <array>
 #include <string>
 
 #include "antennas/beams/yagi.h"
+#include "antennas/dipoles/coax_trap.h"
+#include "antennas/dipoles/coil_loaded_dipole.h"
 #include "antennas/dipoles/folded_dipole.h"
+#include "antennas/dipoles/g5rv.h"
+#include "antennas/dipoles/ladder_line.h"
+#include "antennas/dipoles/linear_loading.h"
+#include "antennas/dipoles/linear_trap_dipole.h"
+#include "antennas/dipoles/off_centre_dipole.h"
+#include "antennas/dipoles/trap_dipole.h"
 #include "antennas/dipoles/wire_antennas.h"
+#include "antennas/straight_wire.h"
 #include "antennas/verticals/loaded_vertical.h"
 #include "benchmarks.h"
 #include "capacitors/series_capacitor.h"
@@ -217,6 +227,39 @@ void register_antennas() {
   call("antennas/five_element_yagi", five_element_yagi, 145.0);
 }
 
+void register_dipoles() {
+  using namespace antennas;
+  const Conductor conductor{7.1, 2};
+  call(
+      "antennas/dipole_impedance_ohm",
+      [](Real arm_m, const Conductor& wire) { return dipole_impedance_ohm(arm_m, wire); }, 5.0,
+      conductor);
+  call("antennas/half_wave_arm_m", half_wave_arm_m, conductor);
+  const CoilLoadedDipole loaded{6, 3, conductor};
+  call("antennas/is_resonant_without_coils", is_resonant_without_coils, loaded);
+  call("antennas/coil_loading", coil_loading, loaded);
+  call("antennas/coil_loading_efficiency", coil_loading_efficiency, loaded);
+  call("antennas/trap_reactance_ohm", trap_reactance_ohm, 3.65, 7.1, 8e-6);
+  call("antennas/trap_dipole", [] {
+    return trap_dipole(std::array<Real, 3>{14.15, 7.1, 3.65}, std::array<Real, 2>{50, 100}, 2);
+  });
+  call("antennas/single_pair_dipole", single_pair_dipole, ThreeBands{3.65, 7.05, 14.15}, 2.0);
+  call("antennas/single_pair_dipole_widest", single_pair_dipole, ThreeBands{3, 9, 30}, 2.0);
+  call("antennas/coax_trap_hz", coax_trap_hz, trap_cables().front(), 40.0, 11.0);
+  call("antennas/coax_trap", coax_trap, trap_cables().front(), 40.0, 7.05,
+       TrapOutput::inner_conductor);
+  call("antennas/linear_load", linear_load, LinearLoadedArm{6, conductor, 2, 100});
+  const LadderLine line = ladder_lines()[1];
+  call("antennas/suits_linear_trap", suits_linear_trap, line, 7.1);
+  call("antennas/linear_trap_dipole", linear_trap_dipole, line, 7.1, 3.65, 2.0);
+  call("antennas/g5rv", g5rv, 14.15, 2.0, line);
+  call(
+      "antennas/g5rv_at_28_5_mhz",
+      [](const G5rv& antenna) { return antenna.centre_impedance_ohm(28.5); }, g5rv(14.15, 2, line));
+  call("antennas/single_wire_tap", single_wire_tap, 600.0, conductor);
+  call("antennas/cut_wire_tap", cut_wire_tap, 200.0, conductor);
+}
+
 void register_lines() {
   using namespace lines;
   call("lines/find_coax_cable", find_coax_cable, coax_cables().back().name);
@@ -262,6 +305,7 @@ void register_engineering() {
   register_coils();
   register_materials();
   register_antennas();
+  register_dipoles();
   register_lines();
   register_power();
 }

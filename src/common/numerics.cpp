@@ -4,6 +4,7 @@
 #define BOOST_DISABLE_ASSERTS
 
 #include <algorithm>
+#include <array>
 #include <boost/math/quadrature/tanh_sinh.hpp>
 #include <boost/math/special_functions/bessel.hpp>
 #include <boost/math/special_functions/ellint_2.hpp>
@@ -11,7 +12,11 @@
 #include <boost/math/special_functions/gamma.hpp>
 #include <boost/math/tools/minima.hpp>
 #include <boost/math/tools/toms748_solve.hpp>
+#include <cmath>
+#include <complex>
+#include <cstddef>
 #include <limits>
+#include <numbers>
 #include <utility>
 
 // What the policy below calls where a function has no value.
@@ -93,6 +98,92 @@ Real middle_of(const std::pair<double, double>& bracket) {
   return low + (high - low) / 2;
 }
 
+/// Sine and cosine integral go by their power series up to here, where it loses a digit, and by
+/// x exp(jx) E1(jx), which is smooth to infinity, beyond.
+constexpr double end_of_series = 5;
+
+/// Powers of x^2 from the first up, of magnitudes 1 / (k k!): of every second k from 1 or from 2.
+template <std::size_t Terms>
+constexpr std::array<double, Terms> integrated_series(int first_k) {
+  std::array<double, Terms> terms{};
+  double factorial = 1;
+  for (int k = 1, sign = 1; k < first_k + 2 * static_cast<int>(Terms); ++k) {
+    factorial *= k;
+    if (k >= first_k && (k - first_k) % 2 == 0) {
+      terms[static_cast<std::size_t>((k - first_k) / 2)] = sign / (k * factorial);
+      sign = -sign;
+    }
+  }
+  return terms;
+}
+
+/// Of a series whose terms fall fast; fewer of them do up to 1.
+template <std::size_t Terms>
+double power_series(const std::array<double, Terms>& terms, double x) {
+  constexpr std::size_t enough_up_to_one = 9;
+  double sum = 0;
+  for (std::size_t term = x > 1 ? Terms : enough_up_to_one; term-- > 0;) {
+    sum = sum * x + terms[term];
+  }
+  return sum;
+}
+
+double sine_series(double x) {
+  static constexpr auto terms = integrated_series<18>(1);
+  return x * power_series(terms, x * x);
+}
+
+double cosine_series(double x) {
+  static constexpr auto terms = integrated_series<18>(2);
+  return std::numbers::egamma + std::log(x) - x * x * power_series(terms, x * x);
+}
+
+/// x exp(jx) E1(jx) from the continued fraction (NIST Digital Library of Mathematical Functions,
+/// 6.9.1).
+std::complex<double> scaled_exponential_integral(double x) {
+  constexpr int depth = 100;
+  const std::complex<double> z{0, x};
+  std::complex<double> fraction = z + (2.0 * depth + 1);
+  for (int k = depth; k > 0; --k) {
+    fraction = z + (2.0 * k - 1) - static_cast<double>(k) * k / fraction;
+  }
+  return x / fraction;
+}
+
+/// The same as Chebyshev's series in the reciprocal of x, over a range of that.
+class ScaledExponentialIntegral {
+ public:
+  ScaledExponentialIntegral(double from, double to)
+      : middle_{(from + to) / 2}, half_{to - middle_} {
+    for (std::size_t node = 0; node < terms; ++node) {
+      const double angle = std::numbers::pi * (static_cast<double>(node) + 0.5) / terms;
+      const std::complex<double> value =
+          scaled_exponential_integral(1 / (middle_ + half_ * std::cos(angle)));
+      for (std::size_t term = 0; term < terms; ++term) {
+        coefficients_[term] +=
+            value * (std::cos(static_cast<double>(term) * angle) * (term == 0 ? 1.0 : 2.0) / terms);
+      }
+    }
+  }
+
+  [[nodiscard]] std::complex<double> operator()(double reciprocal) const {
+    const double place = (reciprocal - middle_) / half_;
+    std::complex<double> last;
+    std::complex<double> last_but_one;
+    for (std::size_t term = terms; term-- > 1;) {
+      last_but_one = std::exchange(last, coefficients_[term] + 2 * place * last - last_but_one);
+    }
+    return coefficients_[0] + place * last - last_but_one;
+  }
+
+ private:
+  static constexpr std::size_t terms = 16;
+
+  double middle_;
+  double half_;
+  std::array<std::complex<double>, terms> coefficients_{};
+};
+
 }  // namespace
 
 Real root_between(Real a, Real b, const RealFunction& f) {
@@ -156,5 +247,30 @@ Real bessel_k(int order, Real x) {
 }
 
 Real gamma_function(Real x) { return boost::math::tgamma(x.value(), Faults{}); }
+
+Real sine_integral(Real x) {
+  if (abs(x) <= end_of_series) {
+    return sine_series(x.value());
+  }
+  const Real magnitude = std::numbers::pi / 2 + imaginary_exponential_integral(abs(x)).imaginary();
+  return x < 0 ? -magnitude : magnitude;
+}
+
+Real cosine_integral(Real x) { return -imaginary_exponential_integral(x).real(); }
+
+Complex imaginary_exponential_integral(Real x) {
+  require(x > 0);
+  const double at = x.value();
+  if (at <= end_of_series) {
+    return {-cosine_series(at), sine_series(at) - std::numbers::pi / 2};
+  }
+  constexpr double far = 14;
+  static const ScaledExponentialIntegral beyond{0, 1 / far};
+  static const ScaledExponentialIntegral before{1 / far, 1 / end_of_series};
+  const double reciprocal = 1 / at;
+  const std::complex<double> integral =
+      (at > far ? beyond : before)(reciprocal)*std::complex<double>{std::cos(at), -std::sin(at)};
+  return {integral.real() * reciprocal, integral.imag() * reciprocal};
+}
 
 }  // namespace eterlab

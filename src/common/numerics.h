@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "common/arithmetic.h"
+#include "common/complex.h"
 
 namespace eterlab {
 
@@ -67,6 +68,20 @@ Real bessel_k(int order, Real x);
 
 /// Gamma function; zero and negative whole numbers throw invalid_argument.
 Real gamma_function(Real x);
+
+/// @}
+
+/// @name Sine and cosine integral
+/// To 1E-14 of the result, next to the zeros of cosine_integral() of 1.
+/// @{
+
+/// Si(x), the integral of sin(t) / t from 0 to x.
+Real sine_integral(Real x);
+/// Ci(x), the integral of cos(t) / t from infinity to x; 0 and less throw invalid_argument.
+Real cosine_integral(Real x);
+/// Both in one: the exponential integral E1(jx) = -Ci(x) + j (Si(x) - pi / 2), that of
+/// exp(-jt) / t from x to infinity, also where it is small; 0 and less throw invalid_argument.
+Complex imaginary_exponential_integral(Real x);
 
 /// @}
 

@@ -24,6 +24,8 @@ class List final : public QComboBox {
   List(Parent parent, std::string_view name, std::string_view prompt,
        std::initializer_list<std::string_view> entries = {}, Tooltip tip = {});
 
+  /// Where a window names the prompt otherwise.
+  void name_prompt(std::string_view name);
   operator Field() const { return {prompt_.get(), const_cast<List*>(this), nullptr}; }
 
   void add(std::string_view entry);

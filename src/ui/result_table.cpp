@@ -53,8 +53,10 @@ ResultTable::ResultTable(Parent parent, std::string_view name, int rows,
   grid_->setVerticalSpacing(theme::spacing() / 6);
   int place = 0;
   for (const Column& column : columns) {
-    heads_.push_back(
-        std::make_unique<Label>(this, std::string{column.name} + "_head", column.head));
+    const std::string head_name =
+        std::string{column.head_name.empty() ? column.name : column.head_name} +
+        (column.head_name.empty() ? "_head" : "");
+    heads_.push_back(std::make_unique<Label>(this, head_name, column.head));
     heads_.back()->set_role(Label::Role::note);
     heads_.back()->setWordWrap(false);
     const bool is_text = column.kind == Kind::text;

@@ -28,6 +28,7 @@ class ResultTable final : public QWidget {
     std::string_view name;  ///< of its cells, which get the row's index behind it: lbltabr1_0
     std::string_view head;
     Kind kind = Kind::result;
+    std::string_view head_name = {};  ///< unless told, the cells' with "_head" behind it
   };
 
   ResultTable(Parent parent, std::string_view name, int rows,

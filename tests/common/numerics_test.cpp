@@ -142,6 +142,19 @@ TEST(SpecialFunctions, HaveTheirValues) {
       {"K1(0.1)", bessel_k(1, 0.1), 9.8538447808706061348},
       {"K4(30)", bessel_k(4, 30), 2.77125917598762492e-14},
       {"K0 of much", bessel_k(0, 1000), 0},
+      {"Si(1E-8)", sine_integral(1e-8), 1e-8},
+      {"Si(-1)", sine_integral(-1), -0.94608307036718301494},
+      {"Si(4.9999)", sine_integral(4.9999), 1.54995042390558879},
+      {"Si(5.0001)", sine_integral(5.0001), 1.54991206693465355},
+      {"Si(-1000)", sine_integral(-1000), -1.57023312196877129},
+      {"Ci(1E-8)", cosine_integral(1e-8), -17.8434650790508336},
+      {"Ci(0.5)", cosine_integral(0.5), -0.1777840788066129},
+      {"Ci(4.9999)", cosine_integral(4.9999), -0.190035421998139803},
+      {"Ci(5.0001)", cosine_integral(5.0001), -0.190024075510764279},
+      {"Ci(13.9999)", cosine_integral(13.9999), 0.0693953788758921705},
+      {"Ci(14.0001)", cosine_integral(14.0001), 0.0693973322647238534},
+      {"Ci(1000)", cosine_integral(1000), 0.000826315511090682246},
+      {"Im E1(j 1000)", imaginary_exponential_integral(1000).imaginary(), -0.000563204826125401083},
       {"gamma of 5", gamma_function(5), 24},
       {"gamma of -1.5", gamma_function(-1.5), 2.3632718012073547031},
   };
@@ -159,6 +172,8 @@ TEST(SpecialFunctions, FaultWhereTheyHaveNoValue) {
   EXPECT_EQ(kind_of_fault([] { bessel_k(0, 0); }), Kind::invalid_argument);
   EXPECT_EQ(kind_of_fault([] { bessel_k(1, -1); }), Kind::invalid_argument);
   EXPECT_EQ(kind_of_fault([] { gamma_function(-2); }), Kind::invalid_argument);
+  EXPECT_EQ(kind_of_fault([] { cosine_integral(0); }), Kind::invalid_argument);
+  EXPECT_EQ(kind_of_fault([] { imaginary_exponential_integral(-1); }), Kind::invalid_argument);
   EXPECT_EQ(kind_of_fault([] { bessel_y(5, 1e-100); }), Kind::overflow);
   EXPECT_EQ(kind_of_fault([] { bessel_k(3, 1e-200); }), Kind::overflow);
   EXPECT_EQ(kind_of_fault([] { bessel_i(0, 800); }), Kind::overflow);
