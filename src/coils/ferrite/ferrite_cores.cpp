@@ -47,6 +47,11 @@ Real turn_impedance_ohm(const FerriteCore& core, Real frequency_hz) {
          hypot(1, frequency_hz / relaxation_hz(core));
 }
 
+Complex relaxing_turn_impedance_ohm(const FerriteCore& core, Real frequency_hz) {
+  const Complex reactance_ohm{0, 2 * pi * frequency_hz * inductance_index_h(core)};
+  return reactance_ohm / Complex{1, frequency_hz / relaxation_hz(core)};
+}
+
 Real turn_loss_conductance_s(const FerriteCore& core, Real frequency_hz) {
   const Real relaxation = relaxation_hz(core);
   const Real share =

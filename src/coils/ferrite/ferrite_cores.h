@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "common/arithmetic.h"
+#include "common/complex.h"
 
 namespace eterlab::coils {
 
@@ -29,6 +30,8 @@ std::span<const FerriteCore> ferrite_cores();
 /// 4500 MHz over the permeability that falls. Source: J. L. Snoek's relation for nickel-zinc
 /// ferrites, Physica 14, 1948.
 Real turn_impedance_ohm(const FerriteCore& core, Real frequency_hz);
+/// The impedance itself, of a permeability that relaxes there.
+Complex relaxing_turn_impedance_ohm(const FerriteCore& core, Real frequency_hz);
 
 /// Conductance that the losses of the core put across one turn; of more by the inverse square of
 /// the turns. Of mix 43 the real part of 1 / Z of a permeability that relaxes, the same at all
