@@ -30,7 +30,7 @@ class frmlungelettrica final : public LineWindow {
   ui::Result lblmezze{this, "lblmezze"};
   ui::Result lblquarti{this, "lblquarti"};
   ui::Result lblonda{this, "lblonda"};
-  ui::Schematic drawing{this, "drawing", 72, 20};
+  ui::Schematic drawing{this, "drawing", 75, 20};
   ui::Value lblvaloredata{drawing, "lblvaloredata"};
   ui::Value lblvaloremezze{drawing, "lblvaloremezze"};
   ui::Value lblvalorequarti{drawing, "lblvalorequarti"};
@@ -54,7 +54,7 @@ class frmlungelettrica final : public LineWindow {
 
   void draw() {
     drawing.clear();
-    drawing.box({0.5, cable - 2}, {antenna, cable + 2})
+    drawing.box({3, cable - 2}, {antenna, cable + 2})
         .named("ANTENNA", Side::centre)
         .box({radio, cable - 2}, {radio + 11, cable + 2})
         .named("APPARATO", Side::centre)
@@ -117,9 +117,9 @@ class frmlungelettrica final : public LineWindow {
 
   // On the drawing
   static constexpr double cable = 4;
-  static constexpr double antenna = 11;  // right edge of its box
-  static constexpr double radio = 55;    // left edge of its box
-  static constexpr double values = 57;
+  static constexpr double antenna = 14;  // right edge of its box
+  static constexpr double radio = 58;    // left edge of its box
+  static constexpr double values = 60;
   static constexpr double given_row = 10;
   static constexpr double half_waves_row = 14;
   static constexpr double quarters_row = 18;

@@ -100,7 +100,7 @@ class frmBalunUnUn final : public LineWindow {
     draw_winding(start, end, upper, first_end);
     draw_winding(start, end, lower, first_end + 2);
     for (const double line : {core - half_gap, core + half_gap}) {
-      drawing.wire({{start + 3.5, line}, {end - 3.5, line}});
+      drawing.wire({{start + 2, line}, {end - 2, line}});
     }
   }
 
@@ -218,8 +218,8 @@ class frmBalunUnUn final : public LineWindow {
 
   // On the drawing
   static constexpr double cable = 4;
-  static constexpr double start = 14;
-  static constexpr double end = 34;
+  static constexpr double start = 17;
+  static constexpr double end = 31;
   static constexpr double antenna = 43;
 };
 

@@ -55,7 +55,8 @@ class frmbalunchoke final : public LineWindow {
                                           lblspire, lblinduttanza, lblreattanza, lblcavo,
                                           lbllunghezza, lblrisonanza, ui::stretch()),
                                drawing),
-                       lblgiudizio));
+                       lblgiudizio),
+            {}, 76);
   }
 
   void show_example() override { fill_in({"7", "14.35", "50", "5", "110"}); }
@@ -66,13 +67,14 @@ class frmbalunchoke final : public LineWindow {
     constexpr double radius = 4;
     constexpr double top = 10;
     constexpr double bottom = 20;
+    constexpr double lead = 8;
     constexpr int turns = 6;
     drawing.box({axis - radius, 5}, {axis + radius, 25})
         .winding({axis, top}, {axis, bottom}, 2 * radius + 0.8, turns)
-        .wire({{axis - radius - 0.4, top}, {12, top}, {12, 3}})
-        .mark({12, 3}, "ANTENNA", Side::above)
-        .wire({{axis - radius - 0.4, bottom}, {12, bottom}, {12, 29}})
-        .mark({12, 29}, "DISCESA", Side::below)
+        .wire({{axis - radius - 0.4, top}, {lead, top}, {lead, 3}})
+        .mark({lead, 3}, "ANTENNA", Side::above)
+        .wire({{axis - radius - 0.4, bottom}, {lead, bottom}, {lead, 28}})
+        .mark({lead, 28}, "DISCESA", Side::below)
         .label(lbln, {14, (top + bottom) / 2}, Side::left);
     measure_height(drawing, {axis + radius + 1, top}, {axis + radius + 1, bottom}, 27, lblavv,
                    Side::right);

@@ -50,7 +50,7 @@ class frmbaluncoax3quarti final : public LineWindow {
                                    lblcavo, lblzin, lblros, lblcorto, lbllungo, ui::stretch()),
                         drawing),
                 Label5),
-            {&cmdchiamacavi});
+            {&cmdchiamacavi}, 84);
   }
 
   void show_example() override { fill_in({"145", "50", "50", "0.66"}); }
@@ -69,6 +69,9 @@ class frmbaluncoax3quarti final : public LineWindow {
         .wire({{fork, quarter.from.y}, {fork, long_end}})
         .coaxial_cable(quarter)
         .label(lbl14, {(quarter.from.x + quarter.to.x) / 2, quarter.from.y - 1}, Side::above);
+    drawing
+        .mark({(quarter.from.x + quarter.to.x) / 2, quarter.from.y + 1}, "1/4 D'ONDA", Side::below)
+        .mark({(fork + quarter.to.x) / 2, 27 + braid}, "3/4 D'ONDA", Side::below);
     draw_long_cable(fork, quarter.to.x);
     constexpr double upper_feed = 10;
     constexpr double lower_feed = 16;

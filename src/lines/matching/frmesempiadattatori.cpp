@@ -86,6 +86,8 @@ class frmesempiadattatori final : public ui::Calculator {
       Table.at(row, swr) = fixed(usual.swr(), 2);
       ++row;
     }
+    Table.wrap(load, 30);
+    Table.wrap(section, 38);
     Table.reserve(length, "299.792,5 + 99.930,8 cm.");
   }
 
