@@ -6,7 +6,7 @@ namespace eterlab::lines {
 
 /// A run of line at a frequency. Source: IEC 60050-726, degrees = 360 l / lambda.
 struct LineRun {
-  Real frequency_mhz;
+  Real frequency_mhz;    ///< of the wave
   Real length_m;         ///< of the line itself
   Real degrees;          ///< electrical length
   Real velocity_factor;  ///< above 0, up to 1
@@ -37,8 +37,8 @@ LineRun run_of_length_and_degrees(Real length_m, Real degrees, Real velocity_fac
 
 /// A cable cut to a whole number of pieces.
 struct CableCut {
-  Real pieces;
-  Real length_m;
+  Real pieces;    ///< how many, a whole number
+  Real length_m;  ///< of all of them
 };
 /// The first whole number of half waves not shorter than a run: it repeats the impedance at its
 /// end.

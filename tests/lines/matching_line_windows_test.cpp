@@ -1,7 +1,7 @@
 #include "support/form_test.h"
 
-// The windows of matching sections, baluns and electrical lengths. Results without a note were
-// found by chain matrices, nodal analysis and the exact laws of the sections in Python.
+// The windows of matching sections, baluns and electrical lengths. The formulas are tested by chain
+// matrices and the like in matching_line_formulas_test.cpp.
 
 namespace eterlab::test {
 namespace {
@@ -181,7 +181,7 @@ TEST_F(frmbaluninaria, TurnsOnATube) {
          "OGNI FILO = 212 cm. PIU' I TERMINALI|FREQUENZA MASSIMA CIRCA = 14,1 MHz");
   expect_refusal("0|3.5|50|8|3", "txtdiametro",
                  "OLTRE 100 SPIRE: AUMENTARE IL DIAMETRO DEL SUPPORTO");
-  // 33 turns of 16.4 m: an eighth of a wave at 1.8 MHz
+  // 93 turns of 46.2 m: an eighth of a wave at 0.65 MHz
   expect_refusal("1|3.5|600|150|8", "txtdiametro",
                  "FILI TROPPO LUNGHI PER LA FREQUENZA: USARE UN NUCLEO DI FERRITE", notice);
 }

@@ -17,7 +17,7 @@ enum class AirBalunRatio : std::uint8_t {
 
 /// A voltage balun without a core.
 struct AirBalun {
-  AirWinding winding;
+  AirWinding winding;          ///< of all wires
   Real inductance_h;           ///< of each wire
   Real swr_at_lowest;          ///< that it adds there on the cable
   Real highest_frequency_mhz;  ///< at which each wire is an eighth of a wave

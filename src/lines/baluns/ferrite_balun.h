@@ -13,7 +13,7 @@ const std::vector<coils::FerriteCore>& balun_cores();
 
 /// The usual wideband transformers of wires side by side on a ring.
 enum class FerriteBalunKind : std::uint8_t {
-  current_one_to_one,
+  current_one_to_one,   ///< a choke of two wires
   current_one_to_four,  ///< on two cores
   unun_one_to_four,     ///< autotransformer of two wires
   unun_one_to_nine,     ///< autotransformer of three wires
@@ -31,11 +31,11 @@ FerriteBalunTraits traits_of(FerriteBalunKind kind);
 
 /// What a transformer is wound for.
 struct FerriteBalunTask {
-  FerriteBalunKind kind;
-  coils::FerriteCore core;
-  Real lowest_frequency_hz;
-  Real cable_ohm;
-  Real power_w;
+  FerriteBalunKind kind;     ///< of the transformer
+  coils::FerriteCore core;   ///< each of them
+  Real lowest_frequency_hz;  ///< of the band
+  Real cable_ohm;            ///< impedance of the cable
+  Real power_w;              ///< into a matched antenna
 };
 
 /// A transformer with enough turns for its impedance, its flux density and the heat of its core. In

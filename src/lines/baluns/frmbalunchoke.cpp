@@ -1,3 +1,5 @@
+#include <string>
+
 #include "common/number_text.h"
 #include "common/physics.h"
 #include "common/rounding.h"
@@ -56,7 +58,7 @@ class frmbalunchoke final : public LineWindow {
                                           lbllunghezza, lblrisonanza, ui::stretch()),
                                drawing),
                        lblgiudizio),
-            {}, 76);
+            {}, 110);
   }
 
   void show_example() override { fill_in({"7", "14.35", "50", "5", "110"}); }

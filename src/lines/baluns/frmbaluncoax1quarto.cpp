@@ -1,4 +1,7 @@
+#include <algorithm>
 #include <array>
+#include <string>
+#include <string_view>
 
 #include "common/number_text.h"
 #include "common/rounding.h"

@@ -1,3 +1,5 @@
+#include <string>
+
 #include "common/number_text.h"
 #include "lines/baluns/two_cable_balun.h"
 #include "lines/line_section.h"
@@ -50,7 +52,7 @@ class frmbaluncoax3quarti final : public LineWindow {
                                    lblcavo, lblzin, lblros, lblcorto, lbllungo, ui::stretch()),
                         drawing),
                 Label5),
-            {&cmdchiamacavi}, 84);
+            {&cmdchiamacavi}, 119);
   }
 
   void show_example() override { fill_in({"145", "50", "50", "0.66"}); }

@@ -1,4 +1,6 @@
 #include <array>
+#include <string>
+#include <string_view>
 
 #include "common/number_text.h"
 #include "lines/baluns/air_balun.h"

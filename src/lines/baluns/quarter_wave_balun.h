@@ -14,10 +14,10 @@ enum class QuarterWaveBalunKind : std::uint8_t {
 
 /// A 1:1 balun, a shorted quarter wave outside the feed cable.
 struct QuarterWaveBalun {
-  Real length_m;
-  Real impedance_ohm;         ///< of the outer line
-  Real lowest_frequency_mhz;  ///< of the useful band
-  Real highest_frequency_mhz;
+  Real length_m;               ///< of the stub or sleeve
+  Real impedance_ohm;          ///< of the outer line
+  Real lowest_frequency_mhz;   ///< of the useful band
+  Real highest_frequency_mhz;  ///< of the useful band
 };
 
 /// The spacing of the axes, or the inner diameter of the sleeve, is above the braid's diameter; the

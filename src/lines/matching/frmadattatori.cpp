@@ -1,4 +1,6 @@
 #include <optional>
+#include <string>
+#include <utility>
 
 #include "common/number_text.h"
 #include "common/rounding.h"
@@ -47,7 +49,7 @@ class frmadattatori final : public LineWindow {
       "txtvelocita",
       "FATTORE DI VELOCITA' DEI CAVI",
       {.holds = "0.66", .range = section_velocity_range, .prompt_name = "Label6"}};
-  ui::Schematic drawing{this, "drawing", 51, 24};
+  ui::Schematic drawing{this, "drawing", 48, 24};
   ui::Value lblt{drawing, "lblt"};
   ui::Value lblz{drawing, "lblz"};
   ui::Value lbld{drawing, "lbld"};
@@ -57,7 +59,7 @@ class frmadattatori final : public LineWindow {
   ui::Result lblcavo{this, "lblcavo"};
   ui::Result lblros{this, "lblros"};
   ui::Result lblbanda{this, "lblbanda"};
-  ui::Plot plot{this, "plot", frequency_axis({}), swr_axis(), 51, 28};
+  ui::Plot plot{this, "plot", frequency_axis({}), swr_axis(), 48, 28};
   ui::Note Label7{this, "Label7",
                   "LA BANDA VALE PER UN'ANTENNA DI IMPEDENZA COSTANTE. LINEA E SEZIONE CON LO "
                   "STESSO FATTORE DI VELOCITA'"};
@@ -80,7 +82,7 @@ class frmadattatori final : public LineWindow {
                                       lblbanda, ui::stretch()),
                            ui::column(drawing, plot)),
                    Label7),
-        {&cmdchiamaesempi, &cmdchiamacavi});
+        {&cmdchiamaesempi, &cmdchiamacavi}, 120);
 
     Option1.on_click([this](int /*index*/) {
       ask();
@@ -108,13 +110,13 @@ class frmadattatori final : public LineWindow {
   void draw() {
     drawing.clear();
     drawing.mark({4.5, (upper + lower) / 2}, "LINEA")
-        .box({antenna, upper - 3}, {antenna + 11, lower + 3})
+        .box({antenna, upper - 3}, {antenna + 10, lower + 3})
         .named("ANTENNA", Side::centre);
     switch (Option1.selected()) {
       case quarter_wave_section:
-        draw_section(12, 33);
-        drawing.label(lblz, {22.5, (upper + lower) / 2});
-        return draw_line(33);
+        draw_section(12, 31);
+        drawing.label(lblz, {21.5, (upper + lower) / 2});
+        return draw_line(31);
       case series_section:
         draw_section(9, 23);
         draw_line(23);
@@ -264,7 +266,7 @@ class frmadattatori final : public LineWindow {
   // On the drawing
   static constexpr double upper = 8;
   static constexpr double lower = 12;
-  static constexpr double antenna = 39;
+  static constexpr double antenna = 37;
 };
 
 const ui::Registration<frmadattatori> registration{"frmadattatori"};

@@ -86,9 +86,9 @@ class frmesempiadattatori final : public ui::Calculator {
       Table.at(row, swr) = fixed(usual.swr(), 2);
       ++row;
     }
-    Table.wrap(load, 30);
-    Table.wrap(section, 38);
-    Table.reserve(length, "299.792,5 + 99.930,8 cm.");
+    Table.wrap(load, 31);
+    Table.wrap(section, 39);
+    Table.reserve(length, "2.914,2 + 555,0 cm.");
   }
 
   void compute() override {

@@ -1,3 +1,5 @@
+#include <string_view>
+
 #include "common/number_text.h"
 #include "common/rounding.h"
 #include "lines/geometry/section_drawing.h"

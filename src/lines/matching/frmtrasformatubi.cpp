@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <array>
+#include <string_view>
 
 #include "common/number_text.h"
 #include "lines/geometry/section_drawing.h"
@@ -39,7 +41,7 @@ class frmtrasformatubi final : public LineWindow {
                          .holds = "0.975",
                          .range = section_velocity_range,
                          .prompt_name = "Label5"}};
-  ui::Schematic drawing{this, "drawing", 54, 23};
+  ui::Schematic drawing{this, "drawing", 46, 23};
   ui::Value lblgrande{drawing, "lblgrande"};
   ui::Value lblpiccolo{drawing, "lblpiccolo"};
   ui::Value lbltratto{drawing, "lbltratto"};
@@ -78,16 +80,16 @@ class frmtrasformatubi final : public LineWindow {
     } else {
       draw_enclosed();
     }
-    drawing.mark({right + 2.5, 3.5}, "ANTENNA", Side::centre)
-        .mark({left - 0.5, 3.5}, "LINEA", Side::centre);
+    drawing.mark({right + 3.5, 2.3}, "ANTENNA", Side::centre)
+        .mark({left - 0.5, 2.3}, "LINEA", Side::centre);
     measure_width(drawing, {left, axis + 5.5}, {right, axis + 5.5}, 19, lbltratto, Side::below);
   }
 
   void draw_pair() {
     constexpr double radius = 2.5;
     constexpr double half_spacing = 4.5;
-    constexpr ui::At first{10.5 - half_spacing, axis};
-    constexpr ui::At second{10.5 + half_spacing, axis};
+    constexpr ui::At first{9.5 - half_spacing, axis};
+    constexpr ui::At second{9.5 + half_spacing, axis};
     drawing.shaded_circle(first, radius).shaded_circle(second, radius);
     measure_thin_diameter(first, radius, 5.5);
     measure_width(drawing, first, second, 16.5, lblgrande, Side::below);
@@ -102,7 +104,7 @@ class frmtrasformatubi final : public LineWindow {
     constexpr double radius = 2.5;
     constexpr double half_size = 7.5;
     constexpr double wall = 0.8;
-    constexpr ui::At middle{10.5, axis};
+    constexpr ui::At middle{9.5, axis};
     if (form() == TubeForm::round_in_round) {
       drawing.shaded_ring(middle, half_size, half_size + wall);
     } else {
@@ -171,8 +173,8 @@ class frmtrasformatubi final : public LineWindow {
 
   // On the drawing
   static constexpr double axis = 10;
-  static constexpr double left = 29;
-  static constexpr double right = 46;
+  static constexpr double left = 23;
+  static constexpr double right = 38;
 };
 
 const ui::Registration<frmtrasformatubi> registration{"frmtrasformatubi"};

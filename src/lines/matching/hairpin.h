@@ -6,12 +6,12 @@ namespace eterlab::lines {
 
 /// What a hairpin is made of and for.
 struct HairpinTask {
-  Real frequency_mhz;
-  Real radiator_ohm;  ///< its resistance, below that of the cable
-  Real cable_ohm;
+  Real frequency_mhz;         ///< of the match
+  Real radiator_ohm;          ///< its resistance, below that of the cable
+  Real cable_ohm;             ///< its impedance
   Real radiator_diameter_mm;  ///< below a third of the wavelength
-  Real rod_diameter_mm;
-  Real spacing_mm;  ///< of the axes of the rods, at least their diameter
+  Real rod_diameter_mm;       ///< of the hairpin
+  Real spacing_mm;            ///< of the axes of the rods, at least their diameter
 };
 
 /// A hairpin across the feed point of a split radiator that is cut short until it is capacitive.

@@ -12,8 +12,8 @@ namespace eterlab::lines {
 
 /// The frequencies around that of the match, as multiples of it, between which it holds.
 struct MatchedBand {
-  Real from;
-  Real to;
+  Real from;  ///< up to 1
+  Real to;    ///< from 1 on
 };
 
 /// A load on a line, with what matches it between them.
@@ -52,11 +52,10 @@ QuarterWaveMatch quarter_wave_match(Real load_ohm, Real line_ohm);
 /// A piece of the line itself, then a section of another impedance, the shorter of two solutions.
 /// Sections of an impedance near to that of the line cannot do it.
 std::optional<MatchedLoad> series_section_match(Complex load_ohm, Real line_ohm, Real section_ohm);
-/// Sections with an impedance up to the first or from the second one can do it: Z0 / sqrt(S) and
-/// Z0 sqrt(S).
+/// Sections with an impedance up to the first or from the second one can do it.
 struct SeriesSectionLimits {
-  Real greatest_low_ohm;
-  Real least_high_ohm;
+  Real greatest_low_ohm;  ///< Z0 / sqrt(S)
+  Real least_high_ohm;    ///< Z0 sqrt(S)
 };
 /// For a standing-wave ratio on the line.
 SeriesSectionLimits series_section_limits(Real line_ohm, Real standing_wave_ratio);
