@@ -69,7 +69,7 @@ class frmbalunchoke final : public LineWindow {
     constexpr double radius = 4;
     constexpr double top = 10;
     constexpr double bottom = 20;
-    constexpr double lead = 8;
+    constexpr double lead = 7;
     constexpr int turns = 6;
     drawing.box({axis - radius, 5}, {axis + radius, 25})
         .winding({axis, top}, {axis, bottom}, 2 * radius + 0.8, turns)

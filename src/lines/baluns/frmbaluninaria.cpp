@@ -76,13 +76,13 @@ class frmbaluninaria final : public LineWindow {
     constexpr double tube_top = 2;
     constexpr double tube_bottom = 7;
     constexpr double axis = (tube_top + tube_bottom) / 2;
-    constexpr double left = 8;
-    constexpr double right = 28;
+    constexpr double left = 5;
+    constexpr double right = 25;
     constexpr double thicker = 0.8;  // than the tube
     constexpr int turns = 8;
-    drawing.box({4, tube_top}, {32, tube_bottom})
+    drawing.box({1, tube_top}, {29, tube_bottom})
         .winding({left, axis}, {right, axis}, tube_bottom - tube_top + thicker, turns);
-    measure_height(drawing, {32.5, tube_top}, {32.5, tube_bottom}, 35, lblvaloresupporto,
+    measure_height(drawing, {29.5, tube_top}, {29.5, tube_bottom}, 32, lblvaloresupporto,
                    Side::right);
     measure_width(drawing, {left, tube_bottom + 0.9}, {right, tube_bottom + 0.9}, 10,
                   lblvaloreavvolgimento, Side::below);

@@ -93,7 +93,7 @@ class frmtrasformatubi final : public LineWindow {
     drawing.shaded_circle(first, radius).shaded_circle(second, radius);
     measure_thin_diameter(first, radius, 5.5);
     measure_width(drawing, first, second, 16.5, lblgrande, Side::below);
-    drawing.mark({first.x, 16.5}, "D", Side::left);
+    drawing.mark({first.x, 15.3}, "D", Side::left);
     for (const double wire : {axis - half_spacing, axis + half_spacing}) {
       drawing.shaded_box({left, wire - 0.8}, {right, wire + 0.8});
       lead(wire);
@@ -115,7 +115,7 @@ class frmtrasformatubi final : public LineWindow {
     measure_thin_diameter(middle, radius, 7.5);
     measure_width(drawing, {middle.x - half_size, middle.y}, {middle.x + half_size, middle.y}, 20.5,
                   lblgrande, Side::below);
-    drawing.mark({middle.x - half_size, 20.5}, "D", Side::left);
+    drawing.mark({middle.x - half_size, 19.3}, "D", Side::left);
     constexpr double half_outside = 5;
     for (const double side : {-1, 1}) {
       const double inner = axis + side * half_outside;
@@ -129,7 +129,7 @@ class frmtrasformatubi final : public LineWindow {
   void measure_thin_diameter(ui::At centre, double radius, double height) {
     measure_width(drawing, {centre.x - radius, centre.y}, {centre.x + radius, centre.y}, height,
                   lblpiccolo, Side::above);
-    drawing.mark({centre.x - radius, height}, "d", Side::left);
+    drawing.mark({centre.x - radius, height + 0.6}, "d", Side::left);
   }
 
   /// From both ends of the section.
