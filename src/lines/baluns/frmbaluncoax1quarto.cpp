@@ -48,7 +48,7 @@ class frmbaluncoax1quarto final : public LineWindow {
       "txtvelocita",
       "FATTORE DI VELOCITA' ESTERNO ALLA CALZA",
       {.holds = "0.95", .range = section_velocity_range, .prompt_name = "Label5"}};
-  ui::Schematic drawing{this, "drawing", 52, 33};
+  ui::Schematic drawing{this, "drawing", 48, 33};
   ui::Value lblquarto{drawing, "lblquarto"};
   ui::Value lblasse{drawing, "lblasse"};
   ui::Result lbllunghezza{this, "lbllunghezza"};
@@ -92,7 +92,7 @@ class frmbaluncoax1quarto final : public LineWindow {
     constexpr double gap = 1.5;
     drawing.clear();
     drawing.rod({{4, dipole}, {axis - gap, dipole}})
-        .rod({{axis + gap + 1, dipole}, {49, dipole}})
+        .rod({{axis + gap + 1, dipole}, {46, dipole}})
         .coaxial_cable(cable)
         .wire({{axis - gap, dipole}, {axis, dipole}, cable.from})
         .wire({cable.screen_from, {axis + gap + 1, cable.screen_from.y}, {axis + gap + 1, dipole}})
@@ -111,7 +111,7 @@ class frmbaluncoax1quarto final : public LineWindow {
   }
 
   void draw_sleeve() {
-    constexpr double radius = 4;
+    constexpr double radius = 3;
     constexpr double wall = 0.8;
     for (const double side : {-1, 1}) {
       const double inner = axis + side * radius;
@@ -161,7 +161,7 @@ class frmbaluncoax1quarto final : public LineWindow {
 
   // On the drawing
   static constexpr double dipole = 3;
-  static constexpr double axis = 29;  // of the cable
+  static constexpr double axis = 28;  // of the cable
   static constexpr double braid = ui::CoaxialCable::half_thickness;
   static constexpr double top = 8;
   static constexpr double bottom = 24;
