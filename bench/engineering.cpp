@@ -34,6 +34,8 @@
 #include "filters/lc_filters.h"
 #include "filters/lc_notch.h"
 #include "filters/rc_filters.h"
+#include "lines/baluns/air_balun.h"
+#include "lines/baluns/ferrite_balun.h"
 #include "lines/coax_cables.h"
 #include "lines/geometry/coaxial_line.h"
 #include "lines/geometry/facing_strips.h"
@@ -42,6 +44,7 @@
 #include "lines/geometry/uniform_line.h"
 #include "lines/geometry/wire_over_ground.h"
 #include "lines/matching/gamma_match.h"
+#include "lines/matching/matched_load.h"
 #include "lines/standing_wave.h"
 #include "materials/copper_wire.h"
 #include "materials/skin_effect.h"
@@ -283,6 +286,17 @@ void register_lines() {
   call("lines/horizontal_wire", horizontal_wire, 0.002, 6.0, 20.0);
   call("lines/vertical_wire_capacitance_f", vertical_wire_capacitance_f, 0.002, 10.0, 0.5);
   call("lines/line_constants", line_constants, 50.0, 0.66);
+  call("lines/quarter_wave_match", quarter_wave_match, 112.0, 50.0);
+  const Complex antenna{28, -15};
+  call("lines/series_section_match", series_section_match, antenna, 50.0, 112.0);
+  const MatchedLoad matched = stub_match(StubEnd::shorted, antenna, 50, 50);
+  call(
+      "lines/band", [](const MatchedLoad& load) { return load.band(1.5); }, matched);
+  call("lines/air_balun", air_balun, AirBalunRatio::one, 3.5, 50.0, 30.0, 1.5);
+  call("lines/cable_choke", cable_choke, 7.0, 50.0, 110.0, 5.0);
+  const FerriteBalunTask balun{FerriteBalunKind::unun_one_to_nine, balun_cores().front(), 3.5e6, 50,
+                               100};
+  call("lines/ferrite_balun", ferrite_balun, balun);
 }
 
 void register_power() {

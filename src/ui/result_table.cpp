@@ -96,6 +96,13 @@ void ResultTable::reserve(int column, std::string_view longest_text) const {
   at(0, column).reserve(longest_text);
 }
 
+void ResultTable::wrap(int column, int width_in_characters) const {
+  for (int row = 0; row < rows_; ++row) {
+    at(row, column).setWordWrap(true);
+    at(row, column).setFixedWidth(theme::characters(width_in_characters));
+  }
+}
+
 void ResultTable::mark(const std::vector<int>& rows) {
   const std::vector<int> before = std::exchange(marked_, rows);
   for (int row = 0; row < rows_; ++row) {

@@ -41,6 +41,8 @@ class ResultTable final : public QWidget {
   [[nodiscard]] QStringList heads() const;
   /// Keeps room for this text in a column.
   void reserve(int column, std::string_view longest_text) const;
+  /// Breaks the texts of a column into lines of so many average characters.
+  void wrap(int column, int width_in_characters) const;
 
   /// These rows stand out, and no other ones.
   void mark(const std::vector<int>& rows);
