@@ -60,8 +60,9 @@ Microvert microvert(Real frequency_mhz, Real tube_diameter_mm) {
   antenna.counterpoise_m = 0.235 * wavelength_m(frequency_mhz);
   antenna.choke_turns = choke_turns(w);
   antenna.input_resistance_ohm = input_resistance_ohm(w * antenna.inductance_uh);
+  antenna.standing_wave_ratio = cable_impedance_ohm / antenna.input_resistance_ohm;
   // A step up by a shunt coil; what the series coil lacks is the series half of the step.
-  const Real q = sqrt(cable_impedance_ohm / antenna.input_resistance_ohm - 1);
+  const Real q = sqrt(antenna.standing_wave_ratio - 1);
   antenna.matched_series_uh = antenna.inductance_uh - q * antenna.input_resistance_ohm / w;
   antenna.matched_shunt_uh = cable_impedance_ohm / (w * q);
   return antenna;

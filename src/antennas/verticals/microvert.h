@@ -12,6 +12,7 @@ struct Microvert {
   Real counterpoise_m;        ///< of the cable, up to the choke
   int choke_turns;            ///< of RG 58, side by side on a diameter of 100 mm: 1000 ohm or more
   Real input_resistance_ohm;  ///< at resonance
+  Real standing_wave_ratio;   ///< of that at 50 ohm
   Real matched_series_uh;     ///< the coil that takes the other one's place for an exact match ...
   Real matched_shunt_uh;      ///< ... with this one between the conductors of the cable
 };
