@@ -16,7 +16,7 @@ class frmAntAcc final : public LoadedWhipWindow {
   ui::Result lblgradi{this, "lblgradi"};
   ui::Result lblreattanza{this, "lblreattanza"};
   ui::Result lblRR{this, "lblRR"};
-  ui::Schematic drawing{this, "drawing", 42, 36};
+  ui::Schematic drawing{this, "drawing", 48, 46};
   ui::Value lblalt{drawing, "lblalt", "ALTEZZA"};
   ui::Value lblind{drawing, "lblind", "L"};
   ui::Value lblradiali{drawing, "lblradiali", "RADIALI"};
@@ -33,7 +33,7 @@ class frmAntAcc final : public LoadedWhipWindow {
                                    lblfilo, lblRR, lblbase, lblrendimento, lblbanda, ui::stretch()),
                         drawing),
                 Label6),
-            {&cmdavviso});
+            {&cmdavviso}, 106);
   }
 
   void show_example() override { fill_in({"7.05", "2.5", "10", "10", "60"}); }
@@ -43,11 +43,11 @@ class frmAntAcc final : public LoadedWhipWindow {
     using enum ui::Schematic::Side;
     constexpr double radiator = 15;
     constexpr double tip = 1;
-    constexpr double coil_top = 17;
-    constexpr double coil_bottom = 23;
-    constexpr double coil_diameter = 3;
+    constexpr double coil_top = 22;
+    constexpr double coil_bottom = 30;
+    constexpr double coil_diameter = 3.6;
     constexpr double coil_end = radiator - coil_diameter / 2;
-    constexpr ui::At base{radiator, 24.5};
+    constexpr ui::At base{radiator, 32.5};
     constexpr double height = radiator + 4;
     drawing.rod({{radiator, tip}, {radiator, coil_top}})
         .winding({radiator, coil_top}, {radiator, coil_bottom}, coil_diameter, 6)
@@ -57,7 +57,7 @@ class frmAntAcc final : public LoadedWhipWindow {
         .extension({radiator + 0.5, coil_top}, {height + 0.7, coil_top})
         .dimension({height, tip}, {height, coil_top})
         .label(lblalt, {height, (tip + coil_top) / 2}, right)
-        .label(lblind, {radiator + 2, (coil_top + coil_bottom) / 2}, right);
+        .label(lblind, {radiator + 2.4, (coil_top + coil_bottom) / 2}, right);
     draw_fed_base(drawing, base);
     drawing.label(lblradiali, below_radials(base), below);
     mark_not_to_scale(drawing, {radiator, below_radials(base).y + 2});
@@ -66,7 +66,7 @@ class frmAntAcc final : public LoadedWhipWindow {
   void compute() override {
     const BaseLoading loaded = loading();
     const auto coil = coils::spaced_coil(loaded.inductance_uh, txtbobina.value());
-    require(!coil || coil->turns >= least_turns, txtbobina, too_few_turns, notice);
+    require(!coil || coil->turns >= 3, txtbobina, too_few_turns, notice);
     require(coil.has_value(), txtbobina, wire_too_thin, notice);
     const Real height_rad = electrical_height_rad(whip(), txtfrequenza.value());
     lblgradi = "ALTEZZA ELETTRICA = " + fixed(height_rad * 180 / pi, 1) + " GRADI";

@@ -33,7 +33,7 @@ class frmantDL7PE final : public ui::Calculator {
   ui::Result lblchoke{this, "lblchoke"};
   ui::Result lblresistenza{this, "lblresistenza"};
   ui::Result lbladatta{this, "lbladatta"};
-  ui::Schematic drawing{this, "drawing", 30, 46};
+  ui::Schematic drawing{this, "drawing", 35, 52};
   ui::Value lbldistubo{drawing, "lbldistubo", "TUBO"};
   ui::Value lbldisind{drawing, "lbldisind", "L"};
   ui::Value lbldiscontr{drawing, "lbldiscontr", "CONTRAPPESO"};
@@ -51,7 +51,8 @@ class frmantDL7PE final : public ui::Calculator {
                                       lblcapacita, lblinduttanza, lblspire, lblfilo, lblcontrappeso,
                                       lblchoke, lblresistenza, lbladatta, ui::stretch()),
                            drawing),
-                   Label4));
+                   Label4),
+        {}, 121);
   }
 
   void show_example() override { fill_in({"7.05", "40", "40"}); }
@@ -60,17 +61,17 @@ class frmantDL7PE final : public ui::Calculator {
   void draw() {
     using enum ui::Schematic::Side;
     constexpr double axis = 6;
-    constexpr double tube_bottom = 13;
-    constexpr double coil_top = 14;
-    constexpr double coil_bottom = 19;
+    constexpr double tube_bottom = 15;
+    constexpr double coil_top = 16.5;
+    constexpr double coil_bottom = 22.5;
     constexpr double coil_diameter = 3;
     constexpr double coil_end = axis - coil_diameter / 2;
-    constexpr double connector_top = 20.5;
-    constexpr double connector_bottom = 22.5;
+    constexpr double connector_top = 24.5;
+    constexpr double connector_bottom = 26.5;
     constexpr double half_cable = ui::CoaxialCable::half_thickness;
-    constexpr double choke_top = 34;
-    constexpr double choke_bottom = 39;
-    constexpr double cable_end = 43;
+    constexpr double choke_top = 38;
+    constexpr double choke_bottom = 44;
+    constexpr double cable_end = 48.5;
     constexpr double counterpoise = axis + 4;
     drawing.shaded_box({axis - 1.2, 1}, {axis + 1.2, tube_bottom})
         .label(lbldistubo, {axis + 2, (1 + tube_bottom) / 2}, right)
@@ -80,6 +81,8 @@ class frmantDL7PE final : public ui::Calculator {
         .label(lbldisind, {axis + 2, (coil_top + coil_bottom) / 2}, right)
         .box({axis - 1.4, connector_top}, {axis + 1.4, connector_bottom})
         .box({axis - half_cable, connector_bottom}, {axis + half_cable, choke_top})
+        .wire({{axis, choke_top}, {axis - 2, choke_top}})
+        .wire({{axis, choke_bottom}, {axis - 2, choke_bottom}})
         .winding({axis, choke_top}, {axis, choke_bottom}, 4, 4)
         .label(lbldischoke, {axis + 2.5, (choke_top + choke_bottom) / 2}, right)
         .box({axis - half_cable, choke_bottom}, {axis + half_cable, cable_end})
@@ -111,7 +114,7 @@ class frmantDL7PE final : public ui::Calculator {
     const Real frequency_mhz = txtfrequenza.value();
     const Microvert antenna = microvert(frequency_mhz, txtdiametro.value());
     const auto coil = coils::spaced_coil(antenna.inductance_uh, txtbobina.value());
-    require(!coil || coil->turns >= least_turns, txtbobina, too_few_turns, notice);
+    // Within the ranges of its boxes the coil has 4 turns or more.
     require(coil.has_value(), txtbobina, wire_too_thin, notice);
     const std::string tube = centimetres(microvert_tube_m(frequency_mhz));
     const std::string inductance = microhenries(antenna.inductance_uh);

@@ -33,7 +33,8 @@ class frmantJincorto final : public TubeWindow {
                     .thickness = shorted_j_thickness}} {
     draw();
     lay_out(ui::column(ui::row(ui::column(boxes(), lbla, lblb, lbls, lblp, ui::stretch()), drawing),
-                       Label3));
+                       Label3),
+            {}, 110);
   }
 
   void show_example() override { fill_in({"145", "10"}); }

@@ -25,7 +25,7 @@ class frmantcollineare final : public TubeWindow {
   ui::Result lblimpedenza{this, "lblimpedenza"};
   ui::Result lbltratto{this, "lbltratto"};
   ui::Result lblguadagno{this, "lblguadagno"};
-  ui::Schematic drawing{this, "drawing", 44, 48};
+  ui::Schematic drawing{this, "drawing", 41, 54};
   ui::Value lbldisA{drawing, "lbldisA", "A"};
   ui::Value lbldisB{drawing, "lbldisB", "B"};
   ui::Value lbldisD{drawing, "lbldisD", "D"};
@@ -49,7 +49,8 @@ class frmantcollineare final : public TubeWindow {
                                           lblstub, lblspazio, lblradiali, lblaltezza, lblimpedenza,
                                           lbltratto, lblguadagno, ui::stretch()),
                                drawing),
-                       Label3));
+                       Label3),
+            {}, 121);
   }
 
   void show_example() override { fill_in({"145", "4"}); }
@@ -61,9 +62,9 @@ class frmantcollineare final : public TubeWindow {
     using enum ui::Schematic::Side;
     constexpr double stub = 12;
     constexpr double opening = 2.6;
-    constexpr double hub = 32;
+    constexpr double hub = 38;
     constexpr double tip = 1;
-    const double base_length = half_waves() == 1 ? 8.4 : 6.4;
+    const double base_length = half_waves() == 1 ? 10 : 8;
     const double half_wave =
         (hub - tip - base_length) / half_waves() - opening;  // of the drawing, as all of these
     drawing.clear();
@@ -94,7 +95,7 @@ class frmantcollineare final : public TubeWindow {
         .label(lbldisS, {end + 2, y - opening / 2}, right)
         .extension({end, y + 0.5}, {end, y + 2.2})
         .dimension({mast, y + 1.5}, {end, y + 1.5})
-        .label(lbldisD, {mast + length / 2 + 0.5, y + 1.6}, below);
+        .label(lbldisD, {mast + length / 2 + 0.5, y + 1.9}, below);
   }
 
   void tell_half_wave(int element, double upper_end, double lower_end) {
@@ -125,10 +126,10 @@ class frmantcollineare final : public TubeWindow {
         .extension({mast + radial, hub + 1}, {mast + radial, line + 0.7})
         .dimension({mast, line}, {mast + radial, line})
         .label(lbldisR, {mast + radial / 2, line}, below);
-    mark_not_to_scale(drawing, {mast - 10, hub + 11.5});
+    mark_not_to_scale(drawing, {mast - 9, hub + 11.5});
   }
 
-  static constexpr double mast = 17;
+  static constexpr double mast = 15;
 
   void compute() override {
     const CollinearVertical antenna = collinear_vertical(tube(), half_waves());

@@ -36,9 +36,11 @@ class frmantennagap final : public TubeWindow {
                     .frequency_range_mhz = {10, 1300},
                     .thickness = slim_jim_thickness}} {
     draw();
-    lay_out(ui::column(
-        ui::row(ui::column(boxes(), lbla, lblb, lblg, lblc, lbls, lblp, ui::stretch()), drawing),
-        Label3));
+    lay_out(
+        ui::column(ui::row(ui::column(boxes(), lbla, lblb, lblg, lblc, lbls, lblp, ui::stretch()),
+                           drawing),
+                   Label3),
+        {}, 110);
   }
 
   void show_example() override { fill_in({"145", "5"}); }

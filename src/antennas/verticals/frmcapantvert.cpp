@@ -32,7 +32,7 @@ class frmcapantvert final : public ui::Calculator {
   ui::Result lblreattanza{this, "lblreattanza"};
   ui::Result lblinduttanza{this, "lblinduttanza"};
   ui::Result lblrisonanza{this, "lblrisonanza"};
-  ui::Schematic drawing{this, "drawing", 40, 32};
+  ui::Schematic drawing{this, "drawing", 46, 36};
   ui::Value lbllung{drawing, "lbllung", "LUNGHEZZA"};
   ui::Value lblcap{drawing, "lblcap", "C"};
   ui::Note Label4{this, "Label4",
@@ -47,7 +47,8 @@ class frmcapantvert final : public ui::Calculator {
                                           lblcapacita, lblpermetro, lblcapf, lblreattanza,
                                           lblinduttanza, lblrisonanza, ui::stretch()),
                                drawing),
-                       Label4));
+                       Label4),
+            {}, 114);
   }
 
   void show_example() override { fill_in({"5", "20", "3.6"}); }
@@ -57,8 +58,8 @@ class frmcapantvert final : public ui::Calculator {
     using enum ui::Schematic::Side;
     constexpr double rod = 12;
     constexpr double tip = 1;
-    constexpr double base = 20;
-    constexpr double plane = 25.5;
+    constexpr double base = 24;
+    constexpr double plane = 30;
     constexpr double length = rod + 4;
     constexpr double capacitor = rod + 8;
     drawing.rod({{rod, tip}, {rod, base}})

@@ -32,7 +32,7 @@ class frmcappello final : public WhipWindow {
   ui::Result lblRR{this, "lblRR"};
   ui::Result lblsenza{this, "lblsenza"};
   ui::Result lblradiali{this, "lblradiali"};
-  ui::Schematic drawing{this, "drawing", 48, 37};
+  ui::Schematic drawing{this, "drawing", 50, 46};
   ui::Value lblalt{drawing, "lblalt", "ALTEZZA"};
   ui::Value lblraggio{drawing, "lblraggio", "RAGGIO"};
   ui::Note Label5{this, "Label5",
@@ -51,7 +51,7 @@ class frmcappello final : public WhipWindow {
                                    lblraggi, lblanello, lblRR, lblsenza, lblradiali, ui::stretch()),
                         drawing),
                 Label5),
-            {&cmdavviso});
+            {&cmdavviso}, 119);
   }
 
   void show_example() override { fill_in({"7.05", "6", "30", "4"}); }
@@ -63,10 +63,10 @@ class frmcappello final : public WhipWindow {
 
   void draw() {
     using enum ui::Schematic::Side;
-    constexpr double mast = 16;
+    constexpr double mast = 12;
     constexpr double tip = 8;
-    constexpr ui::At base{mast, 26};
-    constexpr double spoke = 10;
+    constexpr ui::At base{mast, 34};
+    constexpr double spoke = 8;
     constexpr ui::At depth{4, -2.5};  // of a spoke that points away
     constexpr double radius = 4;      // the line that tells it
     constexpr double height = mast + spoke + 3;
@@ -78,10 +78,10 @@ class frmcappello final : public WhipWindow {
       drawing.wire(
           {{mast, tip}, {mast + spoke * std::cos(angle) + depth.x * away, tip + depth.y * away}});
     }
-    drawing.extension({mast, tip - 0.5}, {mast, radius - 0.7})
-        .extension({mast + spoke, tip - 0.5}, {mast + spoke, radius - 0.7})
+    drawing.extension({mast, tip - 0.5}, {mast, radius - 0.5})
+        .extension({mast + spoke, tip - 0.5}, {mast + spoke, radius - 0.5})
         .dimension({mast, radius}, {mast + spoke, radius})
-        .label(lblraggio, {mast + spoke / 2, radius}, above)
+        .label(lblraggio, {mast + spoke / 2, radius - 0.5}, above)
         .extension({mast + spoke + 0.5, tip}, {height + 0.7, tip})
         .extension({mast + 0.8, base.y}, {height + 0.7, base.y})
         .dimension({height, tip}, {height, base.y})

@@ -13,7 +13,7 @@ namespace {
 class frmcaricoauto final : public LoadedWhipWindow {
   ui::Result lblpresa{this, "lblpresa"};
   ui::Result lblros{this, "lblros"};
-  ui::Schematic drawing{this, "drawing", 42, 36};
+  ui::Schematic drawing{this, "drawing", 50, 44};
   ui::Value lblalt{drawing, "lblalt", "ALTEZZA"};
   ui::Value lblind{drawing, "lblind", "L"};
   ui::Value lbltap{drawing, "lbltap", "PRESA"};
@@ -29,7 +29,7 @@ class frmcaricoauto final : public LoadedWhipWindow {
                                           lblbase, lblros, lblrendimento, lblbanda, ui::stretch()),
                                drawing),
                        Label6),
-            {&cmdavviso});
+            {&cmdavviso}, 120);
   }
 
   void show_example() override { fill_in({"7.05", "2.5", "10", "10", "60"}); }
@@ -37,18 +37,18 @@ class frmcaricoauto final : public LoadedWhipWindow {
  private:
   void draw() {
     using enum ui::Schematic::Side;
-    constexpr double radiator = 17;
+    constexpr double radiator = 21;
     constexpr double tip = 1;
-    constexpr double coil_top = 13;
-    constexpr double pitch = 1.5;
-    constexpr int turns = 8;
+    constexpr double coil_top = 16;
+    constexpr double pitch = 2;
+    constexpr int turns = 7;
     constexpr double coil_bottom = coil_top + turns * pitch;
-    constexpr double coil_diameter = 4;
+    constexpr double coil_diameter = 4.4;
     constexpr double coil_end = radiator - coil_diameter / 2;
-    constexpr double tap = coil_bottom - 2 * pitch;
-    constexpr double height = radiator + 4;
+    constexpr double tap = coil_bottom - pitch;
+    constexpr double height = radiator + 3;
     constexpr ui::At ground{radiator, coil_bottom + 3};
-    constexpr ui::CoaxialCable cable{{2, tap}, {11, tap}};
+    constexpr ui::CoaxialCable cable{{1, tap}, {15, tap}};
     drawing.rod({{radiator, tip}, {radiator, coil_top}})
         .winding({radiator, coil_top}, {radiator, coil_bottom}, coil_diameter, turns)
         .wire({{radiator, coil_top}, {coil_end, coil_top}})
@@ -58,15 +58,16 @@ class frmcaricoauto final : public LoadedWhipWindow {
         .junction({coil_end, tap})
         .wire({cable.screen_to, {cable.screen_to.x, ground.y}, ground})
         .junction(ground)
-        .ground(ground)
+        .wire({ground, {ground.x, ground.y + 2}})
+        .ground({ground.x, ground.y + 2})
         .extension({radiator + 0.5, tip}, {height + 0.7, tip})
         .extension({radiator + 0.5, coil_top}, {height + 0.7, coil_top})
         .dimension({height, tip}, {height, coil_top})
         .label(lblalt, {height, (tip + coil_top) / 2}, right)
-        .label(lblind, {radiator + 2.5, (coil_top + coil_bottom) / 2}, right)
-        .label(lbltap, {coil_end, tap - 0.5}, left);
+        .label(lblind, {radiator + 2.8, (coil_top + coil_bottom) / 2}, right)
+        .label(lbltap, {9.5, tap - 0.9}, above);
     draw_radials(drawing, ground);
-    mark_not_to_scale(drawing, {radiator, ground.y + 4});
+    mark_not_to_scale(drawing, {radiator, ground.y + 5.5});
   }
 
   void compute() override {
@@ -90,9 +91,8 @@ class frmcaricoauto final : public LoadedWhipWindow {
   }
 
   TappedCoil wound(const BaseLoading& loaded) {
-    constexpr int least_tapped_turns = 4;
     const auto turns = tapped_coil_turns(loaded, txtbobina.value());
-    require(!turns || *turns >= least_tapped_turns, txtbobina, too_few_turns, notice);
+    require(!turns || *turns >= 4, txtbobina, too_few_turns, notice);
     require(turns.has_value(), txtbobina, wire_too_thin, notice);
     const TappedCoil tapped = tapped_coil(loaded, txtbobina.value(), *turns);
     require(can_be_wound(tapped.coil), txtbobina, wire_too_thin, notice);

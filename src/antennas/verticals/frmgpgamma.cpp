@@ -41,7 +41,8 @@ class frmgpgamma final : public TubeWindow {
     lay_out(ui::column(ui::row(ui::column(boxes(), lblradiatore, lblradiali, lblgamma, lblspazio,
                                           lblasta, lblcond, lblcavo, ui::stretch()),
                                drawing),
-                       Label3));
+                       Label3),
+            {}, 110);
   }
 
   void show_example() override { fill_in({"145", "6"}); }
@@ -51,9 +52,9 @@ class frmgpgamma final : public TubeWindow {
     using enum ui::Schematic::Side;
     constexpr double radiator = 16;
     constexpr double tip = 1.5;
-    constexpr double hub_top = 29;
-    constexpr double hub_bottom = 32.5;
-    constexpr double radial = 31;
+    constexpr double hub_top = 28.5;
+    constexpr double hub_bottom = 33;
+    constexpr double radial = 31.8;
     constexpr double hub_left = radiator - 2.5;
     constexpr double hub_right = radiator + 2.5;
     constexpr double gamma = radiator + 7;
@@ -68,15 +69,15 @@ class frmgpgamma final : public TubeWindow {
         .box({hub_left, hub_top}, {hub_right, hub_bottom})
         .rod({{hub_left, radial}, {1.5, radial}})
         .rod({{hub_right, radial}, {radiator + 14.5, radial}})
-        .rod({{radiator - 1.5, hub_bottom}, {radiator - 5, hub_bottom + 3.5}})
-        .rod({{hub_right, hub_top + 0.8}, {radiator + 5.5, hub_top - 1.2}})
+        .rod({{radiator - 1.5, hub_bottom}, {radiator - 4.5, hub_bottom + 3}})
+        .rod({{radiator + 1.5, hub_top}, {radiator + 4.2, hub_top - 2.7}})
         .wire({{radiator, strap}, {gamma, strap}, {gamma, foot}})
         .junction({radiator, strap})
         .variable_capacitor({gamma, foot}, {gamma, feed})
         .label(lbldisC, {gamma + 1.5, (foot + feed) / 2}, right)
         .wire({{gamma, feed}, cable.from})
         .coaxial_cable(cable)
-        .wire({cable.screen_from, {cable.screen_from.x, hub_top + 1}, {hub_right, hub_top + 1}});
+        .wire({cable.screen_from, {cable.screen_from.x, hub_top + 2}, {hub_right, hub_top + 2}});
     drawing.extension({radiator - 0.5, tip}, {height - 0.7, tip})
         .extension({hub_left - 0.5, hub_top}, {height - 0.7, hub_top})
         .dimension({height, tip}, {height, hub_top})

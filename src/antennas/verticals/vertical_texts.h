@@ -21,7 +21,6 @@ std::string microhenries(Real inductance_uh);
 std::string turns_text(const coils::SpacedCoil& coil);
 std::string wire_text(const coils::SpacedCoil& coil);
 
-inline constexpr int least_turns = 3;
 inline constexpr std::string_view too_few_turns =
     "BOBINA DI POCHE SPIRE: RIDURRE IL DIAMETRO DELLA BOBINA";
 inline constexpr std::string_view wire_too_thin =
