@@ -56,11 +56,11 @@ class frmcapantvert final : public ui::Calculator {
  private:
   void draw() {
     using enum ui::Schematic::Side;
-    constexpr double rod = 12;
+    constexpr double rod = 9;
     constexpr double tip = 1;
     constexpr double base = 24;
     constexpr double plane = 30;
-    constexpr double length = rod + 4;
+    constexpr double length = rod + 3;
     constexpr double capacitor = rod + 8;
     drawing.rod({{rod, tip}, {rod, base}})
         .terminal({rod, base + 0.4})
@@ -68,7 +68,7 @@ class frmcapantvert final : public ui::Calculator {
         .capacitor({capacitor, base + 0.4}, {capacitor, plane})
         .label(lblcap, {capacitor + 1.5, (base + 0.4 + plane) / 2}, right)
         .junction({capacitor, plane})
-        .wire({{3, plane}, {37, plane}})
+        .wire({{1, plane}, {36, plane}})
         .ground({rod, plane});
     drawing.extension({rod + 0.5, tip}, {length + 0.7, tip})
         .dimension({length, tip}, {length, base - 0.6})

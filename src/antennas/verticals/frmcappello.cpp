@@ -51,7 +51,7 @@ class frmcappello final : public WhipWindow {
                                    lblraggi, lblanello, lblRR, lblsenza, lblradiali, ui::stretch()),
                         drawing),
                 Label5),
-            {&cmdavviso}, 119);
+            {&cmdavviso}, 121);
   }
 
   void show_example() override { fill_in({"7.05", "6", "30", "4"}); }
@@ -67,9 +67,9 @@ class frmcappello final : public WhipWindow {
     constexpr double tip = 8;
     constexpr ui::At base{mast, 34};
     constexpr double spoke = 8;
-    constexpr ui::At depth{4, -2.5};  // of a spoke that points away
-    constexpr double radius = 4;      // the line that tells it
-    constexpr double height = mast + spoke + 3;
+    constexpr ui::At depth{2.5, -2.5};  // of a spoke that points away
+    constexpr double radius = 4;        // the line that tells it
+    constexpr double height = mast + spoke + 1.5;
     drawing.clear();
     drawing.rod({{mast, tip}, base});
     for (int i = 0; i < spoke_number(); ++i) {

@@ -13,7 +13,7 @@ namespace {
 class frmcaricoauto final : public LoadedWhipWindow {
   ui::Result lblpresa{this, "lblpresa"};
   ui::Result lblros{this, "lblros"};
-  ui::Schematic drawing{this, "drawing", 50, 44};
+  ui::Schematic drawing{this, "drawing", 53, 44};
   ui::Value lblalt{drawing, "lblalt", "ALTEZZA"};
   ui::Value lblind{drawing, "lblind", "L"};
   ui::Value lbltap{drawing, "lbltap", "PRESA"};
@@ -37,16 +37,16 @@ class frmcaricoauto final : public LoadedWhipWindow {
  private:
   void draw() {
     using enum ui::Schematic::Side;
-    constexpr double radiator = 21;
+    constexpr double radiator = 21.5;
     constexpr double tip = 1;
     constexpr double coil_top = 16;
     constexpr double pitch = 2;
     constexpr int turns = 7;
     constexpr double coil_bottom = coil_top + turns * pitch;
-    constexpr double coil_diameter = 4.4;
+    constexpr double coil_diameter = 3.6;
     constexpr double coil_end = radiator - coil_diameter / 2;
     constexpr double tap = coil_bottom - pitch;
-    constexpr double height = radiator + 3;
+    constexpr double height = radiator + 2;
     constexpr ui::At ground{radiator, coil_bottom + 3};
     constexpr ui::CoaxialCable cable{{1, tap}, {15, tap}};
     drawing.rod({{radiator, tip}, {radiator, coil_top}})

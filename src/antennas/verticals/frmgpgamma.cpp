@@ -21,7 +21,7 @@ class frmgpgamma final : public TubeWindow {
   ui::Result lblasta{this, "lblasta"};
   ui::Result lblcond{this, "lblcond"};
   ui::Result lblcavo{this, "lblcavo"};
-  ui::Schematic drawing{this, "drawing", 44, 41};
+  ui::Schematic drawing{this, "drawing", 46, 41};
   ui::Value lbldisA{drawing, "lbldisA", "A"};
   ui::Value lbldisR{drawing, "lbldisR", "R"};
   ui::Value lbldisP{drawing, "lbldisP", "P"};
@@ -50,7 +50,7 @@ class frmgpgamma final : public TubeWindow {
  private:
   void draw() {
     using enum ui::Schematic::Side;
-    constexpr double radiator = 16;
+    constexpr double radiator = 18;
     constexpr double tip = 1.5;
     constexpr double hub_top = 28.5;
     constexpr double hub_bottom = 33;
@@ -67,8 +67,8 @@ class frmgpgamma final : public TubeWindow {
     constexpr ui::CoaxialCable cable{{gamma + 3, feed}, {gamma + 15, feed}};
     drawing.rod({{radiator, tip}, {radiator, hub_top}})
         .box({hub_left, hub_top}, {hub_right, hub_bottom})
-        .rod({{hub_left, radial}, {1.5, radial}})
-        .rod({{hub_right, radial}, {radiator + 14.5, radial}})
+        .rod({{hub_left, radial}, {2, radial}})
+        .rod({{hub_right, radial}, {radiator + 16, radial}})
         .rod({{radiator - 1.5, hub_bottom}, {radiator - 4.5, hub_bottom + 3}})
         .rod({{radiator + 1.5, hub_top}, {radiator + 4.2, hub_top - 2.7}})
         .wire({{radiator, strap}, {gamma, strap}, {gamma, foot}})
@@ -90,11 +90,11 @@ class frmgpgamma final : public TubeWindow {
         .dimension({radiator, spacing}, {gamma, spacing})
         .label(lbldisS, {gamma, spacing}, right);
     constexpr double radial_line = radial + 3;
-    drawing.extension({radiator + 14.5, radial + 0.5}, {radiator + 14.5, radial_line + 0.7})
+    drawing.extension({radiator + 16, radial + 0.5}, {radiator + 16, radial_line + 0.7})
         .extension({radiator, hub_bottom + 0.5}, {radiator, radial_line + 0.7})
-        .dimension({radiator, radial_line}, {radiator + 14.5, radial_line})
-        .label(lbldisR, {radiator + 7.2, radial_line}, below);
-    mark_not_to_scale(drawing, {radiator + 7.2, radial_line + 3});
+        .dimension({radiator, radial_line}, {radiator + 16, radial_line})
+        .label(lbldisR, {radiator + 8, radial_line}, below);
+    mark_not_to_scale(drawing, {radiator + 8, radial_line + 3});
   }
 
   void compute() override {

@@ -7,10 +7,10 @@
 
 namespace eterlab::antennas::j_drawing {
 
-inline constexpr int columns = 45;
+inline constexpr int columns = 47;
 inline constexpr int rows = 41;
-inline constexpr double left = 15;
-inline constexpr double right = 29;
+inline constexpr double left = 17;
+inline constexpr double right = 31;
 inline constexpr double middle = (left + right) / 2;
 inline constexpr double top = 1.5;
 inline constexpr double bottom = 32;  // of conductors that are joined there
