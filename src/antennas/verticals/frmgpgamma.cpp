@@ -74,7 +74,7 @@ class frmgpgamma final : public TubeWindow {
         .wire({{radiator, strap}, {gamma, strap}, {gamma, foot}})
         .junction({radiator, strap})
         .variable_capacitor({gamma, foot}, {gamma, feed})
-        .label(lbldisC, {gamma + 1.5, (foot + feed) / 2}, right)
+        .label(lbldisC, {gamma + 1.9, (foot + feed) / 2}, right)
         .wire({{gamma, feed}, cable.from})
         .coaxial_cable(cable)
         .wire({cable.screen_from, {cable.screen_from.x, hub_top + 2}, {hub_right, hub_top + 2}});
