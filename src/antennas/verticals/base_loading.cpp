@@ -1,5 +1,7 @@
 #include "antennas/verticals/base_loading.h"
 
+#include <numbers>
+
 #include "common/numerics.h"
 #include "common/physics.h"
 

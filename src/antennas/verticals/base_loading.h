@@ -30,8 +30,8 @@ BaseLoading base_loading(const Whip& whip, Real frequency_mhz, Real ground_resis
 
 /// The coil and where the cable goes to.
 struct TappedCoil {
-  coils::SpacedCoil coil;
-  Real tap_turns;  ///< from the end on ground
+  coils::SpacedCoil coil;  ///< all of it
+  Real tap_turns;          ///< from the end on ground
 };
 
 /// Impedance of the cable.

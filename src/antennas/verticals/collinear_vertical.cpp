@@ -1,6 +1,7 @@
 #include "antennas/verticals/collinear_vertical.h"
 
 #include <array>
+#include <cstddef>
 
 namespace eterlab::antennas {
 

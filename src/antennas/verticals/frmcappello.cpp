@@ -1,5 +1,6 @@
 #include <array>
 #include <cmath>
+#include <cstddef>
 
 #include "antennas/verticals/capacity_hat.h"
 #include "antennas/verticals/vertical_drawing.h"

@@ -1,3 +1,5 @@
+#include <string>
+
 #include "antennas/verticals/vertical_drawing.h"
 #include "antennas/verticals/vertical_texts.h"
 #include "antennas/verticals/whip_window.h"
