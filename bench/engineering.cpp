@@ -15,7 +15,11 @@
 #include "antennas/dipoles/trap_dipole.h"
 #include "antennas/dipoles/wire_antennas.h"
 #include "antennas/straight_wire.h"
+#include "antennas/verticals/base_loading.h"
+#include "antennas/verticals/capacity_hat.h"
 #include "antennas/verticals/loaded_vertical.h"
+#include "antennas/verticals/microvert.h"
+#include "antennas/verticals/whip.h"
 #include "benchmarks.h"
 #include "capacitors/series_capacitor.h"
 #include "circuits/handbook_reactance.h"
@@ -26,6 +30,7 @@
 #include "coils/flat_spiral.h"
 #include "coils/multilayer_coil.h"
 #include "coils/single_layer_coil.h"
+#include "coils/spaced_coil.h"
 #include "coils/straight_wire.h"
 #include "coils/toroids/toroid_cores.h"
 #include "coils/toroids/toroid_transformer.h"
@@ -195,6 +200,7 @@ void register_coils() {
   call("coils/coil_of_inductance", coil_of_inductance, form, 10.0);
   call("coils/coil_of_turns", coil_of_turns, form, 35.0);
   call("coils/straight_wire_inductance_uh", straight_wire_inductance_uh, 2.0, 1.0);
+  call("coils/spaced_coil", spaced_coil, 18.2, 60.0);
   call("coils/mix_code", mix_code, toroid_cores().back());
   call("coils/name_of", name_of, toroid_cores().back());
   call("coils/toroid_turns", toroid_turns, 10.0, 49.0);
@@ -223,6 +229,12 @@ void register_antennas() {
   call("antennas/electrical_length_degrees", electrical_length_degrees, vertical);
   call("antennas/radiation_resistance_ohm", radiation_resistance_ohm, vertical);
   call("antennas/radial_length_m", radial_length_m, 7.1);
+  const Whip whip{2.5, 10};
+  call("antennas/whip_radiation_resistance_ohm", whip_radiation_resistance_ohm, 0.4);
+  call("antennas/self_resonance_mhz", self_resonance_mhz, whip);
+  call("antennas/tapped_coil", tapped_coil, base_loading(whip, 7.05, 10), 60.0, 22);
+  call("antennas/spoke_length_m", spoke_length_m, HatSpokes{4, 4}, 56.3, 6.0);
+  call("antennas/microvert", microvert, 7.05, 40.0);
   call("antennas/dipole_arm_m", dipole_arm_m, Single{14.2});
   call("antennas/inverted_v_arm_m", inverted_v_arm_m, Single{14.2});
   call("antennas/harmonic_wire_m", harmonic_wire_m, 2.0, 14.2);

@@ -7,7 +7,10 @@
 #include "coils/flat_spiral.h"
 #include "coils/multilayer_coil.h"
 #include "coils/single_layer_coil.h"
+#include "coils/spaced_coil.h"
 #include "coils/toroids/toroid_cores.h"
+#include "common/numerics.h"
+#include "common/physics.h"
 #include "common/regional_settings.h"
 
 // What the windows leave open: the catalogue of cores, digits that they do not show, ties, limits
@@ -56,6 +59,42 @@ double number(std::string_view comma_text) {
 }
 
 // The number of a size is its outside diameter in hundredths of an inch.
+/// Every turn a ring of its own: Maxwell's mutual inductance of coaxial rings, and the inductance
+/// of a ring with the current on the surface of its wire.
+Real rings_uh(const SpacedCoil& coil) {
+  const Real radius_mm = coil.diameter_mm / 2;
+  Real sum = coil.turns * (ln(8 * radius_mm / (coil.wire_diameter_mm() / 2)) - 2);
+  for (int apart = 1; apart < coil.turns; ++apart) {
+    const Real k = coil.diameter_mm / hypot(coil.diameter_mm, apart * coil.pitch_mm);
+    sum += 2 * (coil.turns - apart) * ((2 / k - k) * elliptic_k(k) - 2 / k * elliptic_e(k));
+  }
+  return vacuum_permeability_h_per_m * 1e6 / 1000 * radius_mm * sum;
+}
+
+TEST(SpacedCoil, HasTheInductanceOfItsRings) {
+  for (const SpacedCoil& coil : {SpacedCoil{60, 22, 2.947}, SpacedCoil{80, 26, 3.22},
+                                 SpacedCoil{100, 4, 10}, SpacedCoil{40, 80, 2}}) {
+    EXPECT_NEAR((inductance_uh(coil) / rings_uh(coil)).value(), 1, 0.005) << coil.turns;
+  }
+}
+
+TEST(SpacedCoil, HasTheFewestTurnsAndExactlyTheInductance) {
+  for (const double wanted_uh : {0.05, 1.0, 18.22, 300.0}) {
+    const auto coil = spaced_coil(wanted_uh, 60);
+    ASSERT_TRUE(coil);
+    EXPECT_NEAR((inductance_uh(*coil) / wanted_uh).value(), 1, 1e-12);
+    EXPECT_GE(coil->length_mm(), 60);
+    if (coil->turns > 1) {  // one less, as long as wide, does not reach it
+      const int fewer = coil->turns - 1;
+      EXPECT_LT(inductance_uh({60, fewer, 60.0 / fewer}), wanted_uh);
+    }
+  }
+  // 5 turns at 0.2 mm are as long as a coil of 1 mm is wide.
+  const Real most_uh = inductance_uh({1, 5, 0.2});
+  EXPECT_EQ(spaced_coil(most_uh * 0.999, 1)->turns, 5);
+  EXPECT_FALSE(spaced_coil(most_uh * 1.001, 1));
+}
+
 TEST(ToroidCores, SizesWithTheirNumbersOfMixesAndDiameters) {
   const std::vector<std::pair<std::string, int>> expected{
       {"T-12", 10},  {"T-16", 10}, {"T-20", 11},  {"T-25", 11}, {"T-30", 11},  {"T-37", 11},
