@@ -50,8 +50,8 @@ class frmantennamoxon final : public WireWindow {
     draw_elements({west, top}, {east, bottom}, radiator_tip, reflector_tip);
     drawing.arrow({middle, top - 1.5}, {middle, 1})
         .mark({middle, (top - 0.5) / 2}, "IRRADIAZIONE", right)
-        .mark({middle + 11, top}, "RADIATORE", below)
-        .mark({middle, bottom}, "RIFLETTORE", above);
+        .mark({middle + 12, top + 0.4}, "RADIATORE", below)
+        .mark({middle, bottom - 0.4}, "RIFLETTORE", above);
 
     const double measured_below = bottom + 2.5;
     for (const double x : {west, east}) {
@@ -61,15 +61,16 @@ class frmantennamoxon final : public WireWindow {
         .label(lbla, {middle, measured_below}, below);
 
     const double measured_east = east + 2.5;
+    const double told_east = measured_east + 0.5;
     for (const double y : {top, radiator_tip, reflector_tip, bottom}) {
       drawing.extension({east + 0.5, y}, {measured_east + 0.5, y});
     }
     // The gap is too narrow for arrows in it: those of its neighbours stand around it.
     drawing.dimension({measured_east, top}, {measured_east, radiator_tip})
         .dimension({measured_east, reflector_tip}, {measured_east, bottom})
-        .label(lblb, {measured_east, (top + radiator_tip) / 2}, right)
-        .label(lblc, {measured_east, (radiator_tip + reflector_tip) / 2}, right)
-        .label(lbld, {measured_east, (reflector_tip + bottom) / 2}, right);
+        .label(lblb, {told_east, (top + radiator_tip) / 2}, right)
+        .label(lblc, {told_east, (radiator_tip + reflector_tip) / 2}, right)
+        .label(lbld, {told_east, (reflector_tip + bottom) / 2}, right);
 
     const double measured_west = west - 2.5;
     for (const double y : {top, bottom}) {

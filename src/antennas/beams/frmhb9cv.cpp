@@ -106,7 +106,9 @@ class frmhb9cv final : public ConductorWindow {
         .wire({{x, boom_y}, {x, capacitor_bottom}})
         .variable_capacitor({x, capacitor_bottom}, {x, capacitor_top})
         .coaxial_cable(cable)
-        .wire({cable.screen_from, {ground, cable.screen_from.y}, {ground, boom_y - half_boom}});
+        .named("50 Ohm", ui::Schematic::Side::left)
+        .wire({cable.screen_from, {ground, cable.screen_from.y}, {ground, boom_y - half_boom}})
+        .junction({ground, boom_y - half_boom});
   }
 
   void compute() override {

@@ -29,7 +29,7 @@ void EhWindow::lay_out_with(const ui::Item& results) {
                                  ui::stretch()),
                       results),
               ui::row(ui::stretch(), drawing, ui::stretch()), Label6, Label7),
-          {}, 104);
+          {}, 118);
 }
 
 void EhWindow::draw_cylinders() {

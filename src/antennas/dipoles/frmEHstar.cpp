@@ -41,7 +41,7 @@ class frmEHstar final : public EhWindow {
                {hot_wire, hot_end + 1},
                {hot_wire, upper_top + 2},
                {cylinder_left, upper_top + 2}});
-    constexpr ui::CoaxialCable cable{{20, cold_end - 1}, {20, hot_end + 1}};
+    constexpr ui::CoaxialCable cable{{20, cold_end - 1}, {20, cold_end + 5}};
     constexpr double screen_wire = cable.screen_from.x + 1.5;
     constexpr double screen_end = lower_top + 2;
     drawing.coaxial_cable(cable)
@@ -52,7 +52,7 @@ class frmEHstar final : public EhWindow {
                {screen_wire, screen_end},
                {cylinder_right, screen_end}});
     drawing.label(lblpresa, {screen_wire, cold_end - 0.5}, right)
-        .label(lblbobina, {screen_wire, hot_end}, right);
+        .label(lblbobina, {cylinder_right, hot_end - 1}, right);
   }
 
   void compute() override {

@@ -73,7 +73,7 @@ class frmloop final : public ui::Calculator {
                                    lblfattoreq, lblbanda, lbltensione, lblcorrente, ui::stretch()),
                         ui::column(drawing, plot)),
                 Label5),
-            {&cmdchiamacondensatore, &cmdchiamainfo}, 104);
+            {&cmdchiamacondensatore, &cmdchiamainfo}, 116);
     cmdchiamacondensatore.on_click([] { open("frmhelpcondensatore", ui::Showing::modal); });
     cmdchiamainfo.on_click([] { open("frminfoloop", ui::Showing::modal); });
   }

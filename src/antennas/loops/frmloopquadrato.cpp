@@ -8,7 +8,7 @@ namespace {
 
 // A full-wave square loop of wire on spreaders.
 class frmloopquadrato final : public WireWindow {
-  ui::Schematic drawing{this, "drawing", 44, 41};
+  ui::Schematic drawing{this, "drawing", 36, 41};
   ui::Value lbllato{drawing, "lbllato"};
   ui::Result lblperimetro{this, "lblperimetro"};
   ui::Result lblbraccio{this, "lblbraccio"};
@@ -28,7 +28,7 @@ class frmloopquadrato final : public WireWindow {
                                           ui::stretch()),
                                drawing),
                        Label3, Label4),
-            {}, 104);
+            {}, 110);
   }
 
   void show_example() override { fill_in({"14.2", "2"}); }
@@ -36,8 +36,8 @@ class frmloopquadrato final : public WireWindow {
  private:
   void draw() {
     using enum ui::Schematic::Side;
-    constexpr double west = 11;
-    constexpr double east = 33;
+    constexpr double west = 7;
+    constexpr double east = 29;
     constexpr double middle = (west + east) / 2;
     constexpr double top = 5;
     constexpr double bottom = top + east - west;
