@@ -45,7 +45,7 @@ std::string Label::content() const { return from_qt(text()); }
 void Label::reserve(std::string_view longest_text) {
   const QString shown = text();
   setText(to_qt(longest_text));
-  setMinimumWidth(sizeHint().width());
+  setMinimumWidth(measured(on_one_line).width());
   setText(shown);
 }
 

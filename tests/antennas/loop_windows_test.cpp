@@ -48,7 +48,7 @@ TEST_F(frmloop, RefusesWhatIsNoSmallLoop) {
   expect_refusal("100|0.58|14.6|10", "txttubo", tube);
   expect_refusal("100|0.58|14.6|0.09", "txtpotenza", "VALORI AMMESSI: DA 0.1 A 10000");
   enter("100|0.58|14.5|10");  // 25 times 0.58 is 14.499999999999998
-  EXPECT_EQ(window.text("lblinduttanza"), "INDUTTANZA = 0,27 uH");
+  EXPECT_EQ(window.text("lblinduttanza"), "INDUTTANZA = 0,30 uH");
 }
 
 TEST_F(frmloop, OpensItsPagesOverItself) {

@@ -8,7 +8,7 @@ namespace {
 
 // The Moxon rectangle, a beam of two elements with folded ends.
 class frmantennamoxon final : public WireWindow {
-  ui::Schematic drawing{this, "drawing", 88, 32};
+  ui::Schematic drawing{this, "drawing", 88, 29};
   ui::Value lbla{drawing, "lbla", "A"};
   ui::Value lblb{drawing, "lblb", "B"};
   ui::Value lblc{drawing, "lblc", "C"};
@@ -24,6 +24,7 @@ class frmantennamoxon final : public WireWindow {
   frmantennamoxon() : WireWindow{"frmantennamoxon", "ANTENNA MOXON", {1e-5, 1e-2}} {
     name_hint("Label4");
     draw();
+    lblriflettore.reserve("FILO DEL RIFLETTORE = cm. 99.999,9");
     lay_out(ui::column(ui::row(ui::column(questions(), ui::stretch()),
                                ui::column(lblradiatore, lblriflettore, ui::stretch())),
                        ui::row(ui::stretch(), drawing, ui::stretch()), Label3));

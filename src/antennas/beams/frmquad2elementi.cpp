@@ -10,7 +10,7 @@ namespace {
 
 // A quad beam of radiator and reflector.
 class frmquad2elementi final : public WireWindow {
-  ui::Schematic drawing{this, "drawing", 64, 33};
+  ui::Schematic drawing{this, "drawing", 64, 32};
   ui::Value lblspaziatura{drawing, "lblspaziatura"};
   ui::Result lblradiatore{this, "lblradiatore"};
   ui::Result lblriflettore{this, "lblriflettore"};

@@ -21,6 +21,7 @@ EhWindow::EhWindow(std::string_view name, std::string_view title, std::string_vi
       drawing{this, "drawing", columns, rows},
       Label6{this, "Label6", how_to_tune} {
   name_hint("Label8");
+  lbltensione.reserve("TENSIONE DI PICCO CON 100 WATT = 99.999 V");
 }
 
 void EhWindow::lay_out_with(const ui::Item& results) {
