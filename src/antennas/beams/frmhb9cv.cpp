@@ -9,7 +9,7 @@ namespace {
 
 // The compact beam of two driven elements.
 class frmhb9cv final : public ConductorWindow {
-  ui::Schematic drawing{this, "drawing", 104, 36};
+  ui::Schematic drawing{this, "drawing", 100, 36};
   ui::Value lblriflettore{drawing, "lblriflettore"};
   ui::Value lbldirettore{drawing, "lbldirettore"};
   ui::Value lblspaziatura{drawing, "lblspaziatura"};
@@ -45,8 +45,8 @@ class frmhb9cv final : public ConductorWindow {
 
  private:
   // Seen from above, the reflector to the left.
-  static constexpr double reflector_x = 16;
-  static constexpr double director_x = 88;
+  static constexpr double reflector_x = 15;
+  static constexpr double director_x = 85;
   static constexpr double boom_y = 17;
   static constexpr double half_boom = 1.2;
   static constexpr double top = 3.5;
@@ -62,8 +62,8 @@ class frmhb9cv final : public ConductorWindow {
     constexpr double measured = bottom + 2;
     drawing.label(lblriflettore, {reflector_x, top - 0.5}, above)
         .label(lbldirettore, {director_x, director_top - 0.5}, above)
-        .arrow({42, 4}, {60, 4})
-        .mark({51, 4}, "IRRADIAZIONE", above);
+        .arrow({40, 4}, {58, 4})
+        .mark({49, 4}, "IRRADIAZIONE", above);
     drawing.extension({reflector_x, bottom + 0.5}, {reflector_x, measured + 0.5})
         .extension({director_x, bottom - 1}, {director_x, measured + 0.5})
         .dimension({reflector_x, measured}, {director_x, measured})

@@ -114,6 +114,8 @@ class frmhelpcondensatore final : public ui::Window {
     for (const Kind& kind : kinds) {
       tbltipi.at(row, 0) = kind.name;
       tbltipi.at(row, 1) = kind.losses;
+      tbltipi.at(row, 2).setWordWrap(true);
+      tbltipi.at(row, 2).reserve(kind.use);
       tbltipi.at(row++, 2) = kind.use;
     }
   }
