@@ -51,8 +51,8 @@ class frmEHstar final : public EhWindow {
                {screen_wire, cable.screen_from.y},
                {screen_wire, screen_end},
                {cylinder_right, screen_end}});
-    drawing.label(lblpresa, {screen_wire, cold_end - 0.5}, right)
-        .label(lblbobina, {cylinder_right, hot_end - 1}, right);
+    drawing.label(lblpresa, {screen_wire + 0.5, cold_end - 0.5}, right)
+        .label(lblbobina, {cylinder_right + 0.5, hot_end - 1}, right);
   }
 
   void compute() override {
