@@ -6,6 +6,7 @@
 #include "antennas/beams/yagi.h"
 #include "antennas/dipoles/coax_trap.h"
 #include "antennas/dipoles/coil_loaded_dipole.h"
+#include "antennas/dipoles/eh_antenna.h"
 #include "antennas/dipoles/folded_dipole.h"
 #include "antennas/dipoles/g5rv.h"
 #include "antennas/dipoles/ladder_line.h"
@@ -17,6 +18,7 @@
 #include "antennas/straight_wire.h"
 #include "antennas/verticals/base_loading.h"
 #include "antennas/verticals/capacity_hat.h"
+#include "antennas/loops/magnetic_loop.h"
 #include "antennas/verticals/loaded_vertical.h"
 #include "antennas/verticals/microvert.h"
 #include "antennas/verticals/whip.h"
@@ -240,6 +242,12 @@ void register_antennas() {
   call("antennas/harmonic_wire_m", harmonic_wire_m, 2.0, 14.2);
   call("antennas/three_element_yagi", three_element_yagi, 145.0);
   call("antennas/five_element_yagi", five_element_yagi, 145.0);
+  const MagneticLoop loop{LoopShape::circle, 3.14, 22, copper_tube_ohm_m};
+  call("antennas/tuned_loop", tuned_loop, loop, 14.2e6);
+  const EhAntenna eh{14.2e6, 0.05, 0.157, 0.002, 200};
+  call("antennas/eh_body", eh_body, eh);
+  call("antennas/eh_star", eh_star, eh, *eh_body(eh));
+  call("antennas/eh_phasing", eh_phasing, eh, *eh_body(eh));
 }
 
 void register_dipoles() {

@@ -66,7 +66,7 @@ void Label::dim_if_outdated() {
 void Label::reserve(std::string_view longest_text) {
   const QString shown = text();
   setText(to_qt(longest_text));
-  setMinimumWidth(sizeHint().width());
+  setMinimumWidth(measured(on_one_line).width());
   setText(shown);
 }
 

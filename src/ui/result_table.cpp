@@ -23,8 +23,11 @@ class Cell : public Label {
   }
   using Label::operator=;
 
-  /// Columns keep their width whichever row is marked.
+  /// Columns keep their width whichever row is marked; what is wrapped takes the room there is.
   [[nodiscard]] QSize sizeHint() const override {
+    if (wordWrap()) {
+      return Label::sizeHint();
+    }
     QFont bold = font();
     bold.setBold(true);
     return Label::sizeHint().expandedTo(

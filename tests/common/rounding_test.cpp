@@ -26,5 +26,10 @@ TEST(Rounding, LimitsStayOnTheSideThatIsAccepted) {
   set_regional_settings({});
 }
 
+TEST(Rounding, DecimalsReachTheirLimits) {
+  EXPECT_TRUE(reaches(0.3, 1.5 * 0.2));  // 0.30000000000000004
+  EXPECT_FALSE(reaches(0.2999999, 1.5 * 0.2));
+}
+
 }  // namespace
 }  // namespace eterlab

@@ -26,11 +26,6 @@ constexpr LineDielectric dielectrics[] = {
 
 }  // namespace
 
-bool reaches(Real x, Real limit) {
-  constexpr double rounding = 1e-12;
-  return x >= limit * (1 - rounding);
-}
-
 std::string impedance_limits_text(Real least_ohm, Real greatest_ohm) {
   constexpr double half_digit = 0.05;
   return "IMPEDENZA NON REALIZZABILE: SCEGLIERE TRA " + fixed(least_ohm + half_digit, 1) + " E " +

@@ -1,0 +1,53 @@
+#include "antennas/conductor_window.h"
+
+#include "common/number_text.h"
+#include "common/physics.h"
+
+namespace eterlab::antennas {
+
+std::string centimetres(Real length_m) { return "cm. " + fixed(100 * length_m, 1); }
+
+ConductorWindow::ConductorWindow(std::string_view name, std::string_view title,
+                                 const Diameter& diameter)
+    : Calculator{name, title},
+      txtfrequenza{this,
+                   "txtfrequenza",
+                   "FREQUENZA in MHz",
+                   {.tooltip = "DA 1 A 1000 MHz",
+                    .range = {{.lowest = 1, .highest = 1000}},
+                    .prompt_name = "Label1"}},
+      txtdiametro{this,
+                  "txtdiametro",
+                  diameter.prompt,
+                  {.tooltip = diameter.tooltip, .prompt_name = "Label2"}},
+      suitable_{diameter.suitable} {}
+
+AntennaWire ConductorWindow::conductor() {
+  const Real wavelength_m = speed_of_light_m_per_s / (1e6 * txtfrequenza.value());
+  const Real diameter_mm = txtdiametro.value();
+  require(suitable_.admits(diameter_mm, wavelength_m), txtdiametro, suitable_.refusal(wavelength_m),
+          "MESSAGGIO DI AVVISO");
+  return {wavelength_m, diameter_mm / 1000};
+}
+
+WireWindow::WireWindow(std::string_view name, std::string_view title,
+                       const SuitableDiameter& suitable)
+    : ConductorWindow{name,
+                      title,
+                      {.prompt = "DIAMETRO DEL FILO in mm",
+                       .tooltip = "solo il conduttore, senza isolante",
+                       .suitable = suitable}} {
+  Option1.preset(0);
+}
+
+AntennaWire WireWindow::wire() {
+  AntennaWire wire = conductor();
+  wire.is_insulated = Option1.selected() == 1;
+  return wire;
+}
+
+ui::Item WireWindow::questions() {
+  return ui::column(ui::form(txtfrequenza, txtdiametro), Frame1.arrange(Option1));
+}
+
+}  // namespace eterlab::antennas
