@@ -28,4 +28,9 @@ std::string fixed_down(Real x, int decimals) {
   return fixed(rounded_down(x * scale) / scale, decimals);
 }
 
+bool reaches(Real x, Real limit) {
+  constexpr double noise_share = 1e-12;
+  return x >= limit * (1 - noise_share);
+}
+
 }  // namespace eterlab

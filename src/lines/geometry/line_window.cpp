@@ -1,6 +1,7 @@
 #include "lines/geometry/line_window.h"
 
 #include "common/number_text.h"
+#include "common/rounding.h"
 #include "lines/geometry/round_rods.h"
 #include "lines/geometry/uniform_line.h"
 
@@ -25,11 +26,6 @@ constexpr LineDielectric dielectrics[] = {
 };
 
 }  // namespace
-
-bool reaches(Real x, Real limit) {
-  constexpr double rounding = 1e-12;
-  return x >= limit * (1 - rounding);
-}
 
 std::string impedance_limits_text(Real least_ohm, Real greatest_ohm) {
   constexpr double half_digit = 0.05;

@@ -17,9 +17,6 @@ inline constexpr ui::Range distance_range_mm{0.01, 100'000};
 inline constexpr ui::Range length_range_m{0.001, 100'000};
 inline constexpr ui::Range impedance_range_ohm{1, 2000};
 
-/// Whether x is not below a limit, but for the rounding of decimals: 0.3 reaches 1.5 times 0.2.
-bool reaches(Real x, Real limit);
-
 /// For an impedance that is not between these: limits that can be typed.
 std::string impedance_limits_text(Real least_ohm, Real greatest_ohm);
 
