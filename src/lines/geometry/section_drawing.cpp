@@ -2,6 +2,8 @@
 
 namespace eterlab::lines {
 
-void plane(ui::Schematic& drawing, At left, At right) { drawing.wire({left, right}).ground(right); }
+void plane(ui::Schematic& drawing, ui::At left, ui::At right) {
+  drawing.wire({left, right}).ground(right);
+}
 
 }  // namespace eterlab::lines

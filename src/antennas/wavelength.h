@@ -1,0 +1,13 @@
+#pragma once
+
+#include "common/arithmetic.h"
+#include "common/physics.h"
+
+namespace eterlab::antennas {
+
+/// Of a wave in free space; the frequency must be above zero.
+inline Real wavelength_m(Real frequency_mhz) {
+  return speed_of_light_m_per_s / (1e6 * frequency_mhz);
+}
+
+}  // namespace eterlab::antennas
