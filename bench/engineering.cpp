@@ -5,6 +5,9 @@
 #include "antennas/beams/yagi.h"
 #include "antennas/dipoles/folded_dipole.h"
 #include "antennas/dipoles/wire_antennas.h"
+#include "antennas/l_network.h"
+#include "antennas/loops/wire_loops.h"
+#include "antennas/radiation_resistance.h"
 #include "antennas/verticals/loaded_vertical.h"
 #include "benchmarks.h"
 #include "capacitors/series_capacitor.h"
@@ -213,6 +216,9 @@ void register_antennas() {
   call("antennas/dipole_arm_m", dipole_arm_m, Single{14.2});
   call("antennas/inverted_v_arm_m", inverted_v_arm_m, Single{14.2});
   call("antennas/harmonic_wire_m", harmonic_wire_m, 2.0, 14.2);
+  call("antennas/dipole_radiation", dipole_radiation, 0.5);
+  call("antennas/rectangular_loop", rectangular_loop, 2.0, 20.0, 0.002);
+  call("antennas/l_match", l_match, Complex{12, -85}, 50.0);
   call("antennas/three_element_yagi", three_element_yagi, 145.0);
   call("antennas/five_element_yagi", five_element_yagi, 145.0);
 }

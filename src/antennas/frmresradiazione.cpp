@@ -22,7 +22,7 @@ class frmresradiazione final : public ui::Calculator {
   ui::Result lblmassimo{this, "lblmassimo"};
   ui::Result lblcentro{this, "lblcentro"};
   ui::Result lblguadagno{this, "lblguadagno"};
-  ui::Schematic drawing{this, "drawing", 54, 24};
+  ui::Schematic drawing{this, "drawing", 54, 21};
   ui::Value lblvalorelunghezza{drawing, "lblvalorelunghezza"};
   ui::Plot plot{this,
                 "plot",
@@ -48,8 +48,8 @@ class frmresradiazione final : public ui::Calculator {
     constexpr double middle = 27;
     constexpr double half = 22;
     constexpr double half_gap = 0.9;
-    constexpr double height = 10.5;
-    constexpr double farthest = 6.5;
+    constexpr double height = 9;
+    constexpr double farthest = 5.5;
     constexpr ui::At left_tip{middle - half, height};
     constexpr ui::At right_tip{middle + half, height};
     drawing.clear();
@@ -60,7 +60,7 @@ class frmresradiazione final : public ui::Calculator {
         .terminal({middle + half_gap, height})
         .curve(current_curve({middle, height}, right_tip, length_wavelengths / 2, farthest))
         .curve(current_curve({middle, height}, left_tip, length_wavelengths / 2, -farthest));
-    measure_width(drawing, left_tip, right_tip, height + 9.5, lblvalorelunghezza,
+    measure_width(drawing, left_tip, right_tip, height + 7, lblvalorelunghezza,
                   ui::Schematic::Side::below);
   }
 

@@ -30,10 +30,12 @@ class frmdeltaloop final : public WireLoopWindow {
     Option1.preset(0);
     Option1.on_click([this](int) { draw(); });
     draw();
-    lay_out(ui::column(ui::row(ui::column(Option1, ui::form(txtfrequenza, txtdiametro),
-                                          lblperimetro, lblbase, lbllati, ui::stretch()),
-                               drawing),
-                       lblaltezza, lblimpedenza, lbladattatore, Label1));
+    lblperimetro.reserve("LUNGHEZZA TOTALE DEL FILO = 999,99 mt.");
+    lay_out(
+        ui::column(ui::row(ui::column(Option1, ui::form(txtfrequenza, txtdiametro), lblperimetro,
+                                      lblbase, lbllati, lblaltezza, ui::stretch()),
+                           drawing),
+                   lblimpedenza, lbladattatore, Label1));
   }
 
   void show_example() override { fill_in({"7.1", "2"}); }

@@ -26,11 +26,10 @@ class frmhentenna final : public WireLoopWindow {
     Option1.preset(0);
     Option1.on_click([this](int) { draw_usual(); });
     draw_usual();
-    lay_out(ui::column(
-        ui::row(ui::column(Option1, ui::form(txtfrequenza, txtdiametro), lblaltezza, lbllarghezza,
-                           lblbarra, lbltotale, lblimpedenza, ui::stretch()),
-                drawing),
-        Label1));
+    lay_out(ui::column(ui::row(ui::column(Option1, ui::form(txtfrequenza, txtdiametro), lblaltezza,
+                                          lbllarghezza, lbltotale, ui::stretch()),
+                               drawing),
+                       lblbarra, lblimpedenza, Label1));
   }
 
   void show_example() override { fill_in({"50.15", "4"}); }
