@@ -81,7 +81,7 @@ class frmreteadattamento final : public ui::Calculator {
     constexpr double upper = 6.5;
     constexpr double lower = 16;
     const double branch = shunt == Shunt::at_line ? 13 : 25;
-    const double from = shunt == Shunt::at_line ? 19 : 6;
+    const double from = shunt == Shunt::at_line ? 21 : 6;
     const double to = from + 16;
     network.clear();
     network.terminal({line, upper})
