@@ -19,6 +19,9 @@
 #include "antennas/verticals/base_loading.h"
 #include "antennas/verticals/capacity_hat.h"
 #include "antennas/loops/magnetic_loop.h"
+#include "antennas/l_network.h"
+#include "antennas/loops/wire_loops.h"
+#include "antennas/radiation_resistance.h"
 #include "antennas/verticals/loaded_vertical.h"
 #include "antennas/verticals/microvert.h"
 #include "antennas/verticals/whip.h"
@@ -240,6 +243,9 @@ void register_antennas() {
   call("antennas/dipole_arm_m", dipole_arm_m, Single{14.2});
   call("antennas/inverted_v_arm_m", inverted_v_arm_m, Single{14.2});
   call("antennas/harmonic_wire_m", harmonic_wire_m, 2.0, 14.2);
+  call("antennas/dipole_radiation", dipole_radiation, 0.5);
+  call("antennas/rectangular_loop", rectangular_loop, 2.0, 20.0, 0.002);
+  call("antennas/l_match", l_match, Complex{12, -85}, 50.0);
   call("antennas/three_element_yagi", three_element_yagi, 145.0);
   call("antennas/five_element_yagi", five_element_yagi, 145.0);
   const MagneticLoop loop{LoopShape::circle, 3.14, 22, copper_tube_ohm_m};

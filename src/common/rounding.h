@@ -26,4 +26,8 @@ bool reaches(Real x, Real limit);
 
 /// @}
 
+/// Whether x is not below a limit, but for the rounding of decimals, 1E-12 of the limit: 0.3
+/// reaches 1.5 times 0.2. Limits are above zero.
+bool reaches(Real x, Real limit);
+
 }  // namespace eterlab

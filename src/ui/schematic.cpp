@@ -227,7 +227,15 @@ Schematic& Schematic::add(At place, const Symbol& symbol, const QTransform& turn
   add_path(Look::line, Fit::symbol, symbol.straight);
   add_path(Look::line, Fit::exact, symbol.curved);
   add_path(Look::solid, Fit::exact, symbol.solid);
-  const QRectF room = turned.mapRect(symbol.room()).translated(point(place));
+  QRectF room = turned.mapRect(symbol.room()).translated(point(place));
+  const bool stands_upright = std::abs(turned.m12()) > std::abs(turned.m11());
+  if (symbol.half_room > 0 && stands_upright) {
+    // Letters above and below bring some room of their own, those beside it do not.
+    constexpr double clearance = 0.35;
+    const double outline = symbol.straight.boundingRect().bottom();
+    const double further = std::max(outline + clearance - symbol.half_room, 0.0);
+    room.adjust(-further, 0, further, 0);
+  }
   last_part_ = {room, place, room.height() > room.width()};
   return *this;
 }

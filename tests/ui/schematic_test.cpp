@@ -81,6 +81,14 @@ TEST_F(Drawing, NamesAPartOnOneSideAndTellsItsValueOnTheOther) {
   EXPECT_LE(name.bottom(), lblr1.y() + 1);
 }
 
+TEST_F(Drawing, KeepsValuesOffThePlatesOfUprightCapacitors) {
+  constexpr double plate = 1.3;
+  drawing.capacitor({20, 2}, {20, 18}).named("C1", lblr1);
+  const double clearance = lblr1.x() - (20 + plate) * ui::grid_step();
+  EXPECT_GE(clearance, 5);
+  EXPECT_LE(drawing.letters()[0].room.right() + clearance, (20 - plate) * ui::grid_step() + 1);
+}
+
 TEST_F(Drawing, HidesTheLabelsThatItIsRedrawnWithout) {
   const auto redraw = [&](ui::Value& label) {
     drawing.clear();

@@ -1,5 +1,6 @@
 #include "lines/geometry/enclosed_pair_window.h"
 
+#include "common/rounding.h"
 #include "lines/geometry/uniform_line.h"
 
 namespace eterlab::lines {

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "common/number_text.h"
+#include "common/rounding.h"
 #include "lines/geometry/uniform_line.h"
 
 namespace eterlab::lines {

@@ -1,8 +1,8 @@
 #include "common/number_text.h"
 #include "lines/geometry/geometry_factor.h"
 #include "lines/geometry/line_window.h"
-#include "lines/geometry/section_drawing.h"
 #include "lines/geometry/uniform_line.h"
+#include "ui/measures.h"
 
 namespace eterlab::lines {
 

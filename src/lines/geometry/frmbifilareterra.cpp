@@ -1,10 +1,12 @@
 #include <algorithm>
 
 #include "common/number_text.h"
+#include "common/rounding.h"
 #include "lines/geometry/geometry_factor.h"
 #include "lines/geometry/line_window.h"
 #include "lines/geometry/section_drawing.h"
 #include "lines/geometry/uniform_line.h"
+#include "ui/measures.h"
 #include "ui/plot.h"
 
 namespace eterlab::lines {

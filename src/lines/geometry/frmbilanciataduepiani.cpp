@@ -1,6 +1,8 @@
+#include "common/rounding.h"
 #include "lines/geometry/enclosed_pair_window.h"
 #include "lines/geometry/geometry_factor.h"
 #include "lines/geometry/section_drawing.h"
+#include "ui/measures.h"
 
 namespace eterlab::lines {
 

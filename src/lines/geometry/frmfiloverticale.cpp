@@ -1,8 +1,10 @@
 #include "common/number_text.h"
 #include "common/physics.h"
+#include "common/rounding.h"
 #include "lines/geometry/line_window.h"
 #include "lines/geometry/section_drawing.h"
 #include "lines/geometry/wire_over_ground.h"
+#include "ui/measures.h"
 
 namespace eterlab::lines {
 

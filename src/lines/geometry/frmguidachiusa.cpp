@@ -1,5 +1,5 @@
 #include "lines/geometry/enclosed_rod_window.h"
-#include "lines/geometry/section_drawing.h"
+#include "ui/measures.h"
 
 namespace eterlab::lines {
 

@@ -2,8 +2,8 @@
 #include "lines/geometry/coaxial_line.h"
 #include "lines/geometry/geometry_factor.h"
 #include "lines/geometry/line_window.h"
-#include "lines/geometry/section_drawing.h"
 #include "lines/geometry/uniform_line.h"
+#include "ui/measures.h"
 
 namespace eterlab::lines {
 

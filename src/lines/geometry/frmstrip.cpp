@@ -1,7 +1,8 @@
 #include "common/number_text.h"
+#include "common/rounding.h"
 #include "lines/geometry/facing_strips.h"
 #include "lines/geometry/line_window.h"
-#include "lines/geometry/section_drawing.h"
+#include "ui/measures.h"
 
 namespace eterlab::lines {
 

@@ -1,6 +1,7 @@
 #include "lines/geometry/line_window.h"
 
 #include "common/number_text.h"
+#include "common/rounding.h"
 #include "lines/geometry/round_rods.h"
 #include "lines/geometry/uniform_line.h"
 

@@ -2,6 +2,7 @@
 
 #include "common/number_text.h"
 #include "common/physics.h"
+#include "common/rounding.h"
 #include "signals/dishes/dish.h"
 #include "signals/radiated_power.h"
 #include "ui/plot.h"
@@ -44,8 +45,7 @@ class frmparaboliche final : public ui::Calculator {
     const Real diameter_m = txtdiametro.value() / cm_in_metre;
     require(txtrendimento.value() <= 100, txtrendimento,
             "IL RENDIMENTO NON PUO' SUPERARE IL 100 %");
-    constexpr double rounding = 1e-12;
-    require(diameter_m >= wavelength_m * (1 - rounding), txtdiametro,
+    require(reaches(diameter_m, wavelength_m), txtdiametro,
             "IL DIAMETRO DEVE ESSERE ALMENO UNA LUNGHEZZA D'ONDA");
     const DishGain dish = dish_gain(diameter_m, wavelength_m, txtrendimento.value() / 100);
     lblguadagno = "GUADAGNO = " + fixed(dish.gain_dbi, 1) + " dBi, " +
