@@ -20,4 +20,15 @@ Mismatch mismatch_of(Real standing_wave_ratio) {
           return_loss_db};
 }
 
+Complex reflection_coefficient(Complex load_ohm, Real line_ohm) {
+  return (load_ohm - line_ohm) / (load_ohm + line_ohm);
+}
+
+Real standing_wave_ratio(Complex load_ohm, Real line_ohm) {
+  // (1 + rho) / (1 - rho), where 1 - rho^2 = 4 R Z0 / |Z + Z0|^2
+  const Real sum = abs(load_ohm + line_ohm);
+  const Real numerator = sum + abs(load_ohm - line_ohm);
+  return numerator / line_ohm * (numerator / load_ohm.real()) / 4;
+}
+
 }  // namespace eterlab::lines

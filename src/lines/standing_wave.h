@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "common/arithmetic.h"
+#include "common/complex.h"
 
 namespace eterlab::lines {
 
@@ -19,5 +20,10 @@ struct Mismatch {
 /// The ratio must be 1 or more. Source: transmission line theory, rho = (S - 1) / (S + 1), return
 /// loss = -20 log rho.
 Mismatch mismatch_of(Real standing_wave_ratio);
+
+/// The reflection coefficient of the voltage, (Z - Z0) / (Z + Z0), of a load with some resistance.
+Complex reflection_coefficient(Complex load_ohm, Real line_ohm);
+/// The standing-wave ratio on a line with that load, also next to total reflection to all digits.
+Real standing_wave_ratio(Complex load_ohm, Real line_ohm);
 
 }  // namespace eterlab::lines
