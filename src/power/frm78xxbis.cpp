@@ -37,7 +37,7 @@ class frm78xxbis final : public ui::Calculator {
                    {.tooltip = "il ripple non deve farla scendere sotto questo valore",
                     .range = any,
                     .prompt_name = "Label3"}};
-  ui::Schematic drawing{this, "drawing", 80, 32};
+  ui::Schematic drawing{this, "drawing", 86, 31};
   ui::Label lbl78xx{drawing, "lbl78xx", "7805"};
   ui::Value lblparte{drawing, "lblparte"};
   ui::Result lbluscita{this, "lbluscita"};
@@ -57,13 +57,10 @@ class frm78xxbis final : public ui::Calculator {
     Option1.preset(0);
     Option2.preset(0);
     show_application();
-    lay_out(ui::column(
-        ui::row(ui::column(Frame1.arrange(ui::column(ui::row(Option1[0], Option1[1], Option1[2]),
-                                                     ui::row(Option1[3], Option1[4], Option1[5]))),
-                           ui::stretch()),
-                ui::column(Frame2.arrange(Option2), ui::stretch()),
-                ui::column(ui::form(txtdato1, txtdato2, txtvin), ui::stretch())),
-        drawing, lbluscita, lblpotenza, lblaltra, Label4));
+    lay_out(ui::column(Frame1.arrange(across(Option1)),
+                       ui::row(ui::column(Frame2.arrange(Option2), ui::stretch()),
+                               ui::column(ui::form(txtdato1, txtdato2, txtvin), ui::stretch())),
+                       drawing, lbluscita, lblpotenza, lblaltra, Label4));
     Option1.on_click([this](int index) { lbl78xx = Option1[index].caption(); });
     Option2.on_click([this](int /*index*/) {
       for (ui::Input* input : {&txtdato1, &txtdato2, &txtvin}) {
@@ -104,8 +101,8 @@ class frm78xxbis final : public ui::Calculator {
 
   static constexpr double input_x = 2;
   static constexpr double regulator_x = 33;
-  static constexpr double output_capacitor_x = 66;
-  static constexpr double output_x = 77;
+  static constexpr double output_capacitor_x = 72;
+  static constexpr double output_x = 84;
   static constexpr double ground_y = 28;
 
   /// The regulator on its line, with the capacitors and ground.
@@ -141,7 +138,7 @@ class frm78xxbis final : public ui::Calculator {
   void draw_lifted(int diodes) {
     constexpr double line_y = 8;
     constexpr double reference_y = 15;
-    constexpr double capacitor_x = 54;
+    constexpr double capacitor_x = 59;
     constexpr ui::At pin = regulator_drawing::reference_of({regulator_x, line_y});
     draw_regulator(line_y, 11);
     draw_output(line_y);

@@ -44,7 +44,7 @@ class frmrettificatori final : public ui::Calculator {
                     "txtcond",
                     "CONDENSATORE in microF",
                     {.range = ui::Range{1, 1000000}, .prompt_name = "Label4"}};
-  ui::Schematic drawing{this, "drawing", 52, 30};
+  ui::Schematic drawing{this, "drawing", 46, 27};
   ui::Result lblvuoto{this, "lblvuoto"};
   ui::Result lblvmedia{this, "lblvmedia"};
   ui::Result lblvmin{this, "lblvmin"};
@@ -54,7 +54,7 @@ class frmrettificatori final : public ui::Calculator {
   ui::Result lbltipo{this, "lbltipo"};
   ui::Result lblsecondario{this, "lblsecondario"};
   ui::Result lblicond{this, "lblicond"};
-  ui::Plot plot{this, "plot", time_axis(), voltage_axis(), 52, 30};
+  ui::Plot plot{this, "plot", time_axis(), voltage_axis(), 45, 28};
   ui::Note Label5{this, "Label5",
                   "RESISTENZA DEL TRASFORMATORE, SE NON NOTA: VOLT / AMPERE NOMINALI DEL "
                   "SECONDARIO x 0,2 (FINO A 20 VA), x 0,1 (100 VA)"};
@@ -68,14 +68,12 @@ class frmrettificatori final : public ui::Calculator {
     name_hint("Label7");
     Option1.preset(2);
     show_circuit();
-    lay_out(ui::column(
-        ui::row(ui::column(Frame1.arrange(Option1), ui::form(txtveff, txtrs, txtcorrente, txtcond),
-                           ui::stretch()),
-                drawing),
-        ui::row(ui::column(lblvuoto, lblvmedia, lblvmin, lblripple, lblpiv, lbldiodo, lbltipo,
-                           lblsecondario, lblicond, ui::stretch()),
-                plot),
-        Label5, Label6));
+    lay_out(ui::column(Frame1.arrange(across(Option1)),
+                       ui::row(ui::column(ui::form(txtveff, txtrs, txtcorrente, txtcond), lblvuoto,
+                                          lblvmedia, lblvmin, lblripple, lblpiv, lbldiodo, lbltipo,
+                                          lblsecondario, lblicond, ui::stretch()),
+                               ui::column(drawing, plot)),
+                       Label5, Label6));
     Option1.on_click([this](int /*index*/) { show_circuit(); });
   }
 
@@ -92,10 +90,10 @@ class frmrettificatori final : public ui::Calculator {
                     : "TENSIONE A VUOTO DEL SECONDARIO in VOLT EFF.");
     drawing.clear();
     drawing.transformer(mains)
-        .wire({mains.primary_top, {1.5, mains.primary_top.y}})
-        .terminal({1.5, mains.primary_top.y})
-        .wire({mains.primary_bottom, {1.5, mains.primary_bottom.y}})
-        .terminal({1.5, mains.primary_bottom.y});
+        .wire({mains.primary_top, {1, mains.primary_top.y}})
+        .terminal({1, mains.primary_top.y})
+        .wire({mains.primary_bottom, {1, mains.primary_bottom.y}})
+        .terminal({1, mains.primary_bottom.y});
     switch (circuit()) {
       case RectifierCircuit::half_wave:
         draw_half_wave();
@@ -110,13 +108,13 @@ class frmrettificatori final : public ui::Calculator {
     draw_load();
   }
 
-  static constexpr ui::Transformer mains{.place = {6, 14.5}, .core = ui::Transformer::Core::iron};
+  static constexpr ui::Transformer mains{.place = {5, 13}, .core = ui::Transformer::Core::iron};
   static constexpr double winding_x = mains.secondary_top.x;
-  static constexpr double plus_y = 5;
-  static constexpr double minus_y = 27;
-  static constexpr double capacitor_x = 34;
-  static constexpr double load_x = 41;
-  static constexpr double output_x = 49;
+  static constexpr double plus_y = 3.5;
+  static constexpr double minus_y = 25;
+  static constexpr double capacitor_x = 32;
+  static constexpr double load_x = 37;
+  static constexpr double output_x = 43;
 
   void draw_half_wave() {
     drawing.wire({mains.secondary_top, {winding_x, plus_y}})
@@ -126,9 +124,9 @@ class frmrettificatori final : public ui::Calculator {
   }
 
   void draw_centre_tap() {
-    constexpr double second_y = 22;
-    constexpr double joint_x = 22;
-    constexpr double tap_x = 27;
+    constexpr double second_y = 20;
+    constexpr double joint_x = 20;
+    constexpr double tap_x = 25;
     drawing.wire({mains.secondary_top, {winding_x, plus_y}})
         .diode({winding_x, plus_y}, {joint_x, plus_y})
         .named("D1", Side::above)
@@ -147,13 +145,13 @@ class frmrettificatori final : public ui::Calculator {
   void draw_bridge() {
     constexpr double middle_y = mains.place.y;
     constexpr double reach = 6;
-    constexpr ui::At upper{20, middle_y - reach};
-    constexpr ui::At lower{20, middle_y + reach};
-    constexpr ui::At minus{20 - reach, middle_y};
-    constexpr ui::At plus{20 + reach, middle_y};
-    constexpr double out_x = 28;
-    constexpr double back_x = 11.5;
-    constexpr double lower_y = 24;
+    constexpr ui::At upper{18.5, middle_y - reach};
+    constexpr ui::At lower{18.5, middle_y + reach};
+    constexpr ui::At minus{18.5 - reach, middle_y};
+    constexpr ui::At plus{18.5 + reach, middle_y};
+    constexpr double out_x = 26.5;
+    constexpr double back_x = 10;
+    constexpr double lower_y = 22;
     for (const ui::At& winding_end : {upper, lower}) {
       drawing.diode(minus, winding_end).diode(winding_end, plus).junction(winding_end);
     }
@@ -217,7 +215,7 @@ class frmrettificatori final : public ui::Calculator {
     plot.curve([&](Real time_ms) { return rectifier.output_v(angle(time_ms)); }, 0, end_ms,
                "USCITA")
         .curve([&](Real time_ms) { return rectifier.rectified_v(angle(time_ms)); }, 0, end_ms,
-               "SENZA CONDENSATORE")
+               "SENZA C")
         .curve([&](Real) { return mean_v; }, 0, end_ms, "MEDIA")
         .curve([&](Real) { return lowest_v; }, 0, end_ms, "MINIMA");
   }

@@ -39,7 +39,7 @@ class frmfinale_antenna final : public MatchingWindow {
                  {.tooltip = "il minore possibile: meno perdite, banda piu' larga",
                   .range = ui::Range{1, 50},
                   .prompt_name = "Label6"}};
-  ui::Schematic drawing{this, "drawing", 70, 28};
+  ui::Schematic drawing{this, "drawing", 70, 31};
   ui::Value lblzrf{drawing, "lblzrf"};
   ui::Value lbll1{drawing, "lbll1"};
   ui::Value lblc1{drawing, "lblc1"};
@@ -69,14 +69,15 @@ class frmfinale_antenna final : public MatchingWindow {
  private:
   void draw() {
     using Side = ui::Schematic::Side;
-    constexpr double line_y = 14.5;
-    constexpr double ground_y = 25;
-    constexpr double plates_y = (line_y + ground_y) / 2;
+    constexpr double line_y = 15.5;
+    constexpr double shunt_y = line_y + 4;
+    constexpr double ground_y = 28;
+    constexpr double plates_y = (shunt_y + ground_y) / 2;
     constexpr ui::At collector{11, line_y};
     constexpr ui::At output_capacitance{20, line_y};
     constexpr ui::At shunt{42, line_y};
     constexpr ui::At antenna{64, line_y};
-    constexpr ui::Transistor final_stage{{10, 20}};
+    constexpr ui::Transistor final_stage{{10, 21}};
     draw_supply(drawing, collector, "Z RF", lblzrf, "");
     drawing.junction(collector)
         .wire({collector, final_stage.collector})
@@ -96,7 +97,8 @@ class frmfinale_antenna final : public MatchingWindow {
     drawing.inductor(output_capacitance, shunt)
         .named("L1", lbll1)
         .junction(shunt)
-        .trimmer_capacitor(shunt, {shunt.x, ground_y})
+        .wire({shunt, {shunt.x, shunt_y}})
+        .trimmer_capacitor({shunt.x, shunt_y}, {shunt.x, ground_y})
         .named("C1", lblc1)
         .ground({shunt.x, ground_y})
         .trimmer_capacitor(shunt, {58, line_y})

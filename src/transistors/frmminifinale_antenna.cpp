@@ -32,7 +32,7 @@ class frmminifinale_antenna final : public MatchingWindow {
                  {.tooltip = "riferito al lato di resistenza maggiore; in pratica da 2 a 5",
                   .range = ui::Range{0.5, 20},
                   .prompt_name = "Label5"}};
-  ui::Schematic drawing{this, "drawing", 66, 28};
+  ui::Schematic drawing{this, "drawing", 66, 30};
   ui::Value lblzrf{drawing, "lblzrf"};
   ui::Value lblc3{drawing, "lblc3"};
   ui::Value lblc1{drawing, "lblc1"};
@@ -56,22 +56,24 @@ class frmminifinale_antenna final : public MatchingWindow {
                        "Label7",
                        {400, 300}} {
     draw();
-    lay_out_with_coils(ui::column(ui::form(txtfrequenza, txtvcc, txtpotenza, txtza, txtq), drawing,
-                                  lblcarico, lblassorbita, lblbobina, lblarmonica, lblcommerciali,
-                                  Label6));
+    lay_out_with_coils(
+        ui::column(ui::form(txtfrequenza, txtvcc, txtpotenza, txtza, txtq), drawing, lblcarico,
+                   lblassorbita, lblbobina, lblarmonica, lblcommerciali, Label6),
+        width_for_standard_values);
   }
 
   void show_example() override { fill_in({"7.03", "12", "2", "50", "3"}); }
 
  private:
   void draw() {
-    constexpr double line_y = 14.5;
-    constexpr double ground_y = 25;
+    constexpr double line_y = 15.5;
+    constexpr double shunt_y = line_y + 3;
+    constexpr double ground_y = 27;
     constexpr ui::At collector{11, line_y};
     constexpr ui::At input{27, line_y};
     constexpr ui::At output{44, line_y};
     constexpr ui::At antenna{60, line_y};
-    constexpr ui::Transistor final_stage{{10, 20}};
+    constexpr ui::Transistor final_stage{{10, 21}};
     draw_supply(drawing, collector, "Z RF", lblzrf, "100 nF");
     drawing.junction(collector)
         .wire({collector, final_stage.collector})
@@ -83,13 +85,15 @@ class frmminifinale_antenna final : public MatchingWindow {
     drawing.capacitor(collector, input)
         .named("C3", lblc3)
         .junction(input)
-        .capacitor(input, {input.x, ground_y})
+        .wire({input, {input.x, shunt_y}})
+        .capacitor({input.x, shunt_y}, {input.x, ground_y})
         .named("C1", lblc1)
         .ground({input.x, ground_y})
         .inductor(input, output)
         .named("L1", lbll1)
         .junction(output)
-        .capacitor(output, {output.x, ground_y})
+        .wire({output, {output.x, shunt_y}})
+        .capacitor({output.x, shunt_y}, {output.x, ground_y})
         .named("C2", lblc2)
         .ground({output.x, ground_y})
         .wire({output, antenna})

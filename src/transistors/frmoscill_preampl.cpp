@@ -35,7 +35,7 @@ class frmoscill_preampl final : public MatchingWindow {
       "txtq",
       "FATTORE Q A CARICO",
       {.tooltip = "in pratica da 5 a 15", .range = ui::Range{1, 100}, .prompt_name = "Label5"}};
-  ui::Schematic drawing{this, "drawing", 62, 31};
+  ui::Schematic drawing{this, "drawing", 68, 32};
   ui::Value lbll1{drawing, "lbll1"};
   ui::Value lblc1{drawing, "lblc1"};
   ui::Value lblc2{drawing, "lblc2"};
@@ -54,7 +54,8 @@ class frmoscill_preampl final : public MatchingWindow {
                        {180, 180}} {
     draw();
     lay_out_with_coils(ui::column(ui::form(txtfrequenza, txtvce, txtpotenza, txtrb, txtq), drawing,
-                                  lblcarico, lbltensione, lblcommerciali, Label6));
+                                  lblcarico, lbltensione, lblcommerciali, Label6),
+                       width_for_standard_values);
   }
 
   void show_example() override { fill_in({"14", "9", "20", "50", "10"}); }
@@ -62,13 +63,13 @@ class frmoscill_preampl final : public MatchingWindow {
  private:
   void draw() {
     using Side = ui::Schematic::Side;
-    constexpr ui::At collector{14, 14.5};
-    constexpr ui::At base{34, 14.5};
-    constexpr ui::Transistor tr1{{13, 19.5}};
-    constexpr ui::Transistor tr2{{49, 14.5}};
-    constexpr double ground_y = 28;
+    constexpr ui::At collector{14, 15.5};
+    constexpr ui::At base{38, 15.5};
+    constexpr ui::Transistor tr1{{13, 20.5}};
+    constexpr ui::Transistor tr2{{55, 15.5}};
+    constexpr double ground_y = 29;
     constexpr double feedback_x = 6;
-    constexpr double feedback_y = 24;
+    constexpr double feedback_y = 25;
     constexpr double feedback_end = 18;
     draw_supply(drawing, collector, "L1", lbll1, "10 nF");
     drawing.junction(collector)
@@ -93,8 +94,8 @@ class frmoscill_preampl final : public MatchingWindow {
         .wire({base, tr2.base})
         .npn(tr2)
         .named("TR2", Side::right)
-        .wire({tr2.collector, {tr2.collector.x, 8}})
-        .terminal({tr2.collector.x, 8})
+        .wire({tr2.collector, {tr2.collector.x, 9}})
+        .terminal({tr2.collector.x, 9})
         .wire({tr2.emitter, {tr2.emitter.x, ground_y}})
         .ground({tr2.emitter.x, ground_y});
   }

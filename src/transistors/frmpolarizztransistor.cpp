@@ -31,7 +31,7 @@ class frmpolarizztransistor final : public ui::Calculator {
                     {.tooltip = "dove il guadagno cala di circa 3 dB",
                      .range = ui::Range{1, 1000000},
                      .prompt_name = "Label4"}};
-  ui::Schematic drawing{this, "drawing", 56, 35};
+  ui::Schematic drawing{this, "drawing", 64, 35};
   ui::Value lblr1{drawing, "lblr1"};
   ui::Value lblr2{drawing, "lblr2"};
   ui::Value lblrc{drawing, "lblrc"};
@@ -55,9 +55,8 @@ class frmpolarizztransistor final : public ui::Calculator {
                    "POLARIZZAZIONE DI UN TRANSISTOR AD EMETTITORE COMUNE"} {
     name_hint("Label6");
     draw();
-    lay_out(ui::column(
-        ui::row(ui::column(ui::form(txtvcc, txtic, txthfe, txtfmin), ui::stretch()), drawing),
-        lblpunto, lblstabilita, lblguadagno, lblzin, lblswing, Label5));
+    lay_out(ui::column(ui::form(txtvcc, txtic, txthfe, txtfmin), drawing, lblpunto, lblstabilita,
+                       lblguadagno, lblzin, lblswing, Label5));
   }
 
   void show_example() override { fill_in({"12", "1", "200", "50"}); }
@@ -68,13 +67,13 @@ class frmpolarizztransistor final : public ui::Calculator {
     constexpr double supply_y = 4;
     constexpr double ground_y = 31;
     constexpr double divider_x = 17;
-    constexpr double bypass_x = 43;
+    constexpr double bypass_x = 49;
     constexpr ui::Transistor transistor{{31, 17}};
     constexpr double output_y = 12.5;
     constexpr double emitter_y = 21.5;
     constexpr double stage_x = transistor.collector.x;
-    drawing.wire({{divider_x, supply_y}, {stage_x, supply_y}, {46, supply_y}})
-        .terminal({46, supply_y})
+    drawing.wire({{divider_x, supply_y}, {stage_x, supply_y}, {52, supply_y}})
+        .terminal({52, supply_y})
         .named("+Vcc", Side::right)
         .junction({stage_x, supply_y})
         .resistor({divider_x, supply_y}, {divider_x, transistor.base.y})
@@ -102,9 +101,9 @@ class frmpolarizztransistor final : public ui::Calculator {
         .named("INGRESSO", Side::above)
         .capacitor({4.5, transistor.base.y}, {divider_x, transistor.base.y})
         .named("C1", lblc1)
-        .capacitor({stage_x, output_y}, {50, output_y})
+        .capacitor({stage_x, output_y}, {52, output_y})
         .named("C2", lblc2)
-        .terminal({50, output_y})
+        .terminal({52, output_y})
         .named("USCITA", Side::above);
   }
 

@@ -45,7 +45,7 @@ class frmtrasm_lineare final : public MatchingWindow {
                   .prompt_name = "Label5"}};
   ui::Input txtq{
       this, "txtq", "FATTORE Q DELLA RETE", {.range = ui::Range{1, 50}, .prompt_name = "Label6"}};
-  ui::Schematic drawing{this, "drawing", 68, 25};
+  ui::Schematic drawing{this, "drawing", 68, 29};
   ui::Value lblc1{drawing, "lblc1"};
   ui::Value lblc2{drawing, "lblc2"};
   ui::Value lbll1{drawing, "lbll1"};
@@ -78,7 +78,8 @@ class frmtrasm_lineare final : public MatchingWindow {
   void draw() {
     using Side = ui::Schematic::Side;
     constexpr double line_y = 13;
-    constexpr double ground_y = 22;
+    constexpr double shunt_y = line_y + 4;
+    constexpr double ground_y = 26;
     constexpr ui::At output{9, line_y};
     constexpr ui::At shunt{26, line_y};
     constexpr ui::At base{44, line_y};
@@ -91,7 +92,8 @@ class frmtrasm_lineare final : public MatchingWindow {
         .trimmer_capacitor(output, shunt)
         .named("C1", lblc1)
         .junction(shunt)
-        .trimmer_capacitor(shunt, {shunt.x, ground_y})
+        .wire({shunt, {shunt.x, shunt_y}})
+        .trimmer_capacitor({shunt.x, shunt_y}, {shunt.x, ground_y})
         .named("C2", lblc2)
         .ground({shunt.x, ground_y})
         .inductor(shunt, base)

@@ -31,8 +31,10 @@ void MatchingWindow::draw_supply(ui::Schematic& drawing, ui::At node, std::strin
   constexpr double supply_y = 4.5;
   constexpr double capacitor_bottom_y = 9.5;
   const double capacitor_x = node.x + 14;
-  drawing.inductor({node.x, supply_y}, node)
+  constexpr double coil_bottom_y = 13;
+  drawing.inductor({node.x, supply_y}, {node.x, coil_bottom_y})
       .named(coil_name, coil)
+      .wire({{node.x, coil_bottom_y}, node})
       .junction({node.x, supply_y})
       .wire({{node.x, 2}, {node.x, supply_y}, {capacitor_x, supply_y}})
       .terminal({node.x, 2})

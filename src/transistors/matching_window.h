@@ -14,7 +14,11 @@ class MatchingWindow : public ui::Calculator {
   MatchingWindow(std::string_view name, std::string_view title, std::string_view hint_name,
                  ui::TwipsPoint corner_beside_coils);
 
-  void lay_out_with_coils(const ui::Item& contents) { lay_out(contents, {&cmdchiamabobine}); }
+  void lay_out_with_coils(const ui::Item& contents, int width_in_characters = default_width) {
+    lay_out(contents, {&cmdchiamabobine}, width_in_characters);
+  }
+  /// Where a line of standard values stands among the results.
+  static constexpr int width_for_standard_values = 92;
 
   /// Unless a network fulfils what a Q must be above, the least Q is told; where the box does not
   /// take that, the box of what asks for too much gets the focus.

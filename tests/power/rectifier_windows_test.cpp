@@ -31,7 +31,7 @@ TEST_F(frmrettificatori, ExamplesAndLimits) {
 // Which family the current asks for, which type the voltage, and what no type bears.
 TEST_F(frmrettificatori, Diodes) {
   use("mnurettificatori", "Option1 txtveff txtrs txtcorrente txtcond", "lbltipo");
-  expect("2|230|10|0.1|100", "DIODI ADATTI: 1N4005");  // 1.5 x 325 V
+  expect("2|230|20|0.1|100", "DIODI ADATTI: 1N4005");  // 1.5 x 325 V
   expect("1|24|0.5|2|4700", "DIODI ADATTI: 1N5402");   // 33 V / 0.5 ohm, 1.5 x 68 V
   expect("2|24|0.1|6|22000", "DIODI DA ALMENO 4 A  51 V");
   expect("0|500|10|0.1|100", "DIODI DA ALMENO 1 A  2.122 V");

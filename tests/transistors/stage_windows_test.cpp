@@ -67,7 +67,7 @@ TEST_F(frmfinale_antenna, ExamplesAndLimits) {
   enter("145|12.5|25||50|6");
   EXPECT_EQ(boxes(), Boxes{});
   expect_refusal("145|12.5|25|90|50|4", "txtq", "Q TROPPO BASSO: USARE ALMENO 5");
-  expect_refusal("145|12.5|2000|90|50|49", "txtpotenza", too_far_apart);
+  expect_refusal("145|12.5|2000|90|1000|49", "txtpotenza", too_far_apart);
   expect_refusal("145|12.5|1||50|6", "txtpotenza",
                  "IL CARICO DI COLLETTORE NON E' MINORE DELL'IMPEDENZA D'ANTENNA: USARE LO STADIO "
                  "FINALE QRP");
