@@ -54,7 +54,7 @@ class frmrettificatori final : public ui::Calculator {
   ui::Result lbltipo{this, "lbltipo"};
   ui::Result lblsecondario{this, "lblsecondario"};
   ui::Result lblicond{this, "lblicond"};
-  ui::Plot plot{this, "plot", time_axis(), voltage_axis(), 45, 28};
+  ui::Plot plot{this, "plot", time_axis(), voltage_axis(), 54, 27};
   ui::Note Label5{this, "Label5",
                   "RESISTENZA DEL TRASFORMATORE, SE NON NOTA: VOLT / AMPERE NOMINALI DEL "
                   "SECONDARIO x 0,2 (FINO A 20 VA), x 0,1 (100 VA)"};
@@ -68,12 +68,13 @@ class frmrettificatori final : public ui::Calculator {
     name_hint("Label7");
     Option1.preset(2);
     show_circuit();
-    lay_out(ui::column(Frame1.arrange(across(Option1)),
-                       ui::row(ui::column(ui::form(txtveff, txtrs, txtcorrente, txtcond), lblvuoto,
-                                          lblvmedia, lblvmin, lblripple, lblpiv, lbldiodo, lbltipo,
-                                          lblsecondario, lblicond, ui::stretch()),
-                               ui::column(drawing, plot)),
-                       Label5, Label6));
+    lay_out(ui::column(
+        ui::row(Frame1.arrange(Option1),
+                ui::column(ui::form(txtveff, txtrs, txtcorrente, txtcond), ui::stretch())),
+        ui::row(drawing, plot),
+        ui::row(ui::column(lblvuoto, lblvmedia, lblvmin, lblripple),
+                ui::column(lblpiv, lbltipo, lblsecondario, lblicond)),
+        lbldiodo, Label5, Label6));
     Option1.on_click([this](int /*index*/) { show_circuit(); });
   }
 

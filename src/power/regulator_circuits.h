@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <optional>
 
 #include "common/arithmetic.h"
@@ -96,6 +95,7 @@ struct VariableSupply {
   Real potentiometer_w;        ///< its dissipation with all of it
   Real least_load_a;           ///< besides R1, to the 10 mA that keep it regulating
 };
+/// Wants a potentiometer that at least 1 mA sweeps over the range.
 VariableSupply variable_supply(const VariableSupplyGoal& goal);
 
 /// To be fed with: 3 V above the highest output.

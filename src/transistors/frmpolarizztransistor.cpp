@@ -1,3 +1,5 @@
+#include <string>
+
 #include "common/number_text.h"
 #include "transistors/emitter_bias.h"
 #include "ui/schematic.h"
@@ -55,8 +57,10 @@ class frmpolarizztransistor final : public ui::Calculator {
                    "POLARIZZAZIONE DI UN TRANSISTOR AD EMETTITORE COMUNE"} {
     name_hint("Label6");
     draw();
+    constexpr int width_for_results = 98;
     lay_out(ui::column(ui::form(txtvcc, txtic, txthfe, txtfmin), drawing, lblpunto, lblstabilita,
-                       lblguadagno, lblzin, lblswing, Label5));
+                       lblguadagno, lblzin, lblswing, Label5),
+            {}, width_for_results);
   }
 
   void show_example() override { fill_in({"12", "1", "200", "50"}); }
@@ -97,9 +101,9 @@ class frmpolarizztransistor final : public ui::Calculator {
     drawing.wire({{divider_x, ground_y}, {bypass_x, ground_y}})
         .junction({stage_x, ground_y})
         .ground({stage_x, ground_y})
-        .terminal({4.5, transistor.base.y})
+        .terminal({5.5, transistor.base.y})
         .named("INGRESSO", Side::above)
-        .capacitor({4.5, transistor.base.y}, {divider_x, transistor.base.y})
+        .capacitor({5.5, transistor.base.y}, {divider_x, transistor.base.y})
         .named("C1", lblc1)
         .capacitor({stage_x, output_y}, {52, output_y})
         .named("C2", lblc2)

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <string>
 
 #include "common/number_text.h"
 #include "lines/standing_wave.h"

@@ -1,5 +1,7 @@
 #include "transistors/matching_window.h"
 
+#include <string>
+
 #include "common/number_text.h"
 #include "common/rounding.h"
 

@@ -1,3 +1,5 @@
+#include <string>
+
 #include "support/form_test.h"
 
 namespace eterlab::test {
