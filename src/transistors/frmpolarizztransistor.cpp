@@ -103,9 +103,11 @@ class frmpolarizztransistor final : public ui::Calculator {
         .ground({stage_x, ground_y})
         .terminal({5.5, transistor.base.y})
         .named("INGRESSO", Side::above)
-        .capacitor({5.5, transistor.base.y}, {divider_x, transistor.base.y})
+        .wire({{5.5, transistor.base.y}, {8.5, transistor.base.y}})
+        .capacitor({8.5, transistor.base.y}, {divider_x, transistor.base.y})
         .named("C1", lblc1)
-        .capacitor({stage_x, output_y}, {52, output_y})
+        .wire({{stage_x, output_y}, {37, output_y}})
+        .capacitor({37, output_y}, {52, output_y})
         .named("C2", lblc2)
         .terminal({52, output_y})
         .named("USCITA", Side::above);
