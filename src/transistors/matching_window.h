@@ -18,7 +18,7 @@ class MatchingWindow : public ui::Calculator {
     lay_out(contents, {&cmdchiamabobine}, width_in_characters);
   }
   /// Where a line of standard values stands among the results.
-  static constexpr int width_for_standard_values = 104;
+  static constexpr int width_for_standard_values = 112;
 
   /// Unless a network fulfils what a Q must be above, the least Q is told; where the box does not
   /// take that, the box of what asks for too much gets the focus.
