@@ -59,6 +59,8 @@
 #include "materials/copper_wire.h"
 #include "materials/skin_effect.h"
 #include "materials/strand.h"
+#include "power/rectifier.h"
+#include "power/regulator_circuits.h"
 #include "power/three_terminal_regulator.h"
 #include "resistors/meter_resistance.h"
 #include "resistors/pads/handbook_pads.h"
@@ -73,6 +75,8 @@
 #include "signals/power_level.h"
 #include "signals/radio_horizon.h"
 #include "signals/waveform.h"
+#include "transistors/emitter_bias.h"
+#include "transistors/stage_matching.h"
 #include "units/locator.h"
 #include "units/mils.h"
 #include "units/temperature.h"
@@ -331,6 +335,19 @@ void register_power() {
   call("power/adjustable_regulator", adjustable_regulator, 9.0);
   call("power/adjustable_regulator_highest_input_v", adjustable_regulator_highest_input_v, 9.0);
   call("power/constant_current_resistor_ohm", constant_current_resistor_ohm, 100.0);
+  call("power/rectifier", Rectifier::in_steady_state,
+       RectifierSupply{RectifierCircuit::bridge, 13.8, 0.9, 1, 2200e-6});
+  call("power/lifted_regulator", lifted_regulator, 12.0, 37.0);
+  call("power/variable_supply", variable_supply, VariableSupplyGoal{5, 15, 4700});
+}
+
+void register_transistors() {
+  using namespace transistors;
+  const PiTerminations ends{33.0, 50, 7.03e6};
+  call("transistors/common_emitter_stage", common_emitter_stage,
+       CommonEmitterGoal{12, 0.001, 200, 50});
+  call("transistors/tapped_capacitor", tapped_capacitor, 1806.0, 50.0, 10.0, 14e6);
+  call("transistors/pi_network", pi_network, ends, 3.0);
 }
 
 }  // namespace
@@ -348,6 +365,7 @@ void register_engineering() {
   register_dipoles();
   register_lines();
   register_power();
+  register_transistors();
 }
 
 }  // namespace eterlab::bench

@@ -1,4 +1,3 @@
-#include <array>
 #include <optional>
 
 #include "common/number_text.h"
@@ -10,8 +9,6 @@
 namespace eterlab::power {
 
 namespace {
-
-constexpr std::array<int, 6> nominal_voltages_v{5, 8, 12, 15, 18, 24};
 
 // A fixed regulator raised to a higher output by a divider on its ground pin.
 class frm78xx final : public ui::Window {
@@ -69,7 +66,7 @@ class frm78xx final : public ui::Window {
     lblr2 = "R2";
     txtvu = "";
     lbl78xx = Option1[index].caption();
-    nominal_v_ = nominal_voltages_v[static_cast<std::size_t>(index)];
+    nominal_v_ = fixed_regulators_v[static_cast<std::size_t>(index)];
   }
 
   void cmdcalcola_click() {

@@ -47,29 +47,10 @@ class frmlm317 final : public ui::Window {
 
  private:
   void draw() {
-    using namespace regulator_drawing;
-    constexpr double over_the_box_y = 1.5;
-    constexpr double before_the_box_x = 21;
-    constexpr double behind_the_box_x = 37;
-    constexpr double diode_x = 40;
-    constexpr double capacitor_x = 36;
-    constexpr double capacitor_label_y = 17.5;
-    draw_supply(drawing, "ADJ", Label3);
-    draw_divider_and_output(drawing, {lblr1, lblr2, Label4, lblvin, lblvout});
-    drawing.label(Label6, name_place);
-    // Diodes that discharge the capacitors past the regulator when its input or output is shorted.
-    drawing.wire({{behind_the_box_x, supply_y}, {behind_the_box_x, over_the_box_y}})
-        .diode({behind_the_box_x, over_the_box_y}, {before_the_box_x, over_the_box_y})
-        .wire({{before_the_box_x, over_the_box_y}, {before_the_box_x, supply_y}})
-        .junction({before_the_box_x, supply_y})
-        .junction({behind_the_box_x, supply_y})
-        .diode({diode_x, reference_y}, {diode_x, supply_y})
-        .junction({diode_x, reference_y})
-        .junction({diode_x, supply_y});
-    drawing.electrolytic({capacitor_x, reference_y}, {capacitor_x, ground_y})
-        .junction({capacitor_x, reference_y})
-        .junction({capacitor_x, ground_y})
-        .label(Label5, {capacitor_x - 1, capacitor_label_y}, ui::Schematic::Side::left);
+    regulator_drawing::draw_supply(drawing, "ADJ", Label3);
+    regulator_drawing::draw_divider_and_output(drawing, {lblr1, lblr2, Label4, lblvin, lblvout});
+    regulator_drawing::draw_protection(drawing, Label5);
+    drawing.label(Label6, regulator_drawing::name_place);
   }
 
   void cmdcalcola_click() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <optional>
 
 #include "common/arithmetic.h"
@@ -10,6 +11,9 @@ namespace eterlab::power {
 /// Circuits around the regulators of the 78xx and LM317 families. Source: the makers' application
 /// notes. What lies outside the range of a regulator has no design.
 /// @{
+
+/// The nominal outputs of the 78xx: 7805 to 7824.
+inline constexpr std::array<int, 6> fixed_regulators_v{5, 8, 12, 15, 18, 24};
 
 /// The divider that sets the output, and the input that goes with it.
 struct RegulatorDesign {

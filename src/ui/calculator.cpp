@@ -58,7 +58,12 @@ void Calculator::lay_out(const Item& contents, std::initializer_list<Button*> ot
   arrange(column(items), width_in_characters);
 }
 
-void Calculator::name_hint(std::string_view name) { hint_->setObjectName(to_qt(name)); }
+void Calculator::name_hint(std::string_view name, std::string_view text) {
+  hint_->setObjectName(to_qt(name));
+  if (!text.empty()) {
+    *hint_ = text;
+  }
+}
 
 void Calculator::name_exit(std::string_view name, std::string_view caption) {
   cmdesci_.setObjectName(to_qt(name));

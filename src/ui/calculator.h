@@ -58,8 +58,9 @@ class Calculator : public Window {
   void fill_in(std::initializer_list<std::string_view> texts);
   /// Empties the inputs that are shown.
   void clear_inputs() const;
-  /// Where a chapter names the hint otherwise than Labelpunto; before the layout.
-  void name_hint(std::string_view name);
+  /// Where a chapter names the hint otherwise than Labelpunto, or words it otherwise; before the
+  /// layout.
+  void name_hint(std::string_view name, std::string_view text = {});
   /// Where the button that closes the window is another than cmdesci "E S C I".
   void name_exit(std::string_view name, std::string_view caption);
   /// Of every message that is not given one.

@@ -310,7 +310,7 @@ void Plot::add_header(Picture& picture) const {
     if (needed == 0) {
       continue;
     }
-    if (place.x() > 0 && place.x() + needed > width() + between) {
+    if (place.x() > 0 && place.x() + needed > width()) {
       place = {0, place.y() + line};
     }
     const QPointF start = place + QPointF{between, line / 2};
