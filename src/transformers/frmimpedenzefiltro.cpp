@@ -39,7 +39,7 @@ class frmimpedenzefiltro final : public ui::Calculator {
   ui::Result lbltraferro{this, "lbltraferro"};
   ui::Result lblresistenza{this, "lblresistenza"};
   ui::Result lblcaduta{this, "lblcaduta"};
-  ui::Schematic drawing{this, "drawing", 48, 29};
+  ui::Schematic drawing{this, "drawing", 46, 24};
   ui::Value lbldisg{drawing, "lbldisg"};
   ui::Value lbldism{drawing, "lbldism"};
   ui::Value lbldisn{drawing, "lbldisn"};
@@ -54,9 +54,11 @@ class frmimpedenzefiltro final : public ui::Calculator {
     name_hint("Label6");
     draw();
     lay_out(ui::column(ui::row(ui::column(ui::form(txtinduttanza, txtma, txtvr, txtsezione),
-                                          lblnucleo, lblspire, lblfilo, lbltraferro, lblresistenza,
-                                          lblcaduta, ui::stretch()),
+                                          ui::stretch()),
                                drawing),
+                       lblnucleo,
+                       ui::row(ui::column(lblspire, lblfilo, lbltraferro),
+                               ui::column(lblresistenza, lblcaduta, ui::stretch())),
                        Label5),
             {&cmdchiamatabella});
   }
@@ -64,10 +66,10 @@ class frmimpedenzefiltro final : public ui::Calculator {
   void show_example() override { fill_in({"10", "60", "", ""}); }
 
  private:
-  /// A scrapless lamination, its tongue eight wide, under an I over a spacer.
+  /// A scrapless lamination, under an I over a spacer.
   void draw() {
     using Side = ui::Schematic::Side;
-    constexpr double tongue = 8;
+    constexpr double tongue = 6.4;
     constexpr double half = tongue / 2;
     constexpr double left = 2;
     constexpr double window_left = left + half;
@@ -93,6 +95,8 @@ class frmimpedenzefiltro final : public ui::Calculator {
                  {right, e_top},
                  {right, e_bottom},
                  {left, e_bottom}});
+
+    drawing.box({left, i_bottom}, {right, e_top});  // the spacer
 
     // Both sides of the winding, in section.
     constexpr double air = 0.6;

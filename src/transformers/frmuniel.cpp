@@ -12,7 +12,7 @@ namespace eterlab::transformers {
 
 namespace {
 
-constexpr int rows_in_sight = 16;
+constexpr int rows_in_sight = 18;
 
 /// So many significant figures, trailing zeros among them, and whole numbers above that.
 std::string with_figures(Real x, int figures) {
@@ -50,7 +50,7 @@ class frmuniel final : public ui::Calculator {
       : Calculator{"frmuniel", "FILI DI RAME SMALTATO PER AVVOLGIMENTI", Computes::as_typed} {
     name_hint("Label3");
     name_exit("cmdchiudi", "CHIUDI");
-    lay_out(ui::column(ui::row(ui::form(txtcorrente), lblfilo), tabella, Label2));
+    lay_out(ui::column(ui::form(txtcorrente), lblfilo, tabella, Label2));
   }
 
   void show_example() override { fill_in({"0.5"}); }

@@ -22,9 +22,10 @@ struct GappedWinding {
 /// inductance. Source: C. R. Hanna, Journal AIEE 46 (1927), whose best gap has the fewest turns.
 /// @{
 
-/// The fewest turns, not rounded.
+/// Turns, not rounded: the fewest possible where nothing alternates, up to some 10 % more where the
+/// induction is mostly of what alternates.
 Real least_turns(const GappedWinding& winding, const LaminatedCore& core);
-/// Total length of the gap for a number of turns, no less than the fewest.
+/// Total length of the gap for a number of turns, no less than least_turns().
 Real total_gap_m(const GappedWinding& winding, Real turns);
 /// Inductance of a winding on a core; the gap may be 0.
 Real inductance_h(const LaminatedCore& core, Real turns, Real gap_m);

@@ -14,7 +14,9 @@ ScrolledTable::ScrolledTable(Parent parent, std::string_view name, const Row& he
   set_up(*this, name, {});
   int column = 0;
   for (const std::string& head : heads) {
-    setHorizontalHeaderItem(column++, new QTableWidgetItem{to_qt(head)});
+    auto* cell = new QTableWidgetItem{to_qt(head)};
+    cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    setHorizontalHeaderItem(column++, cell);
   }
   int place = 0;
   for (const Row& row : rows) {

@@ -48,7 +48,7 @@ class frmadattimppassabasso final : public ui::Calculator {
   ui::Result lblv1{this, "lblv1"};
   ui::Result lblv2{this, "lblv2"};
   ui::Result lblcorrente{this, "lblcorrente"};
-  ui::Schematic drawing{this, "drawing", 80, 25};
+  ui::Schematic drawing{this, "drawing", 98, 25};
   ui::Value lbldisra{drawing, "lbldisra"};
   ui::Value lbldisc1{drawing, "lbldisc1", "C1"};
   ui::Value lbldisl{drawing, "lbldisl", "L"};
@@ -74,11 +74,12 @@ class frmadattimppassabasso final : public ui::Calculator {
       : Calculator{"frmadattimppassabasso", "ADATTATORE A PI-GRECO TRA VALVOLA E ANTENNA"} {
     name_hint("Label8");
     draw();
-    lay_out(ui::column(ui::row(ui::form(txtra, txtz, txtf, txtq, txtcv, txtp),
-                               ui::column(lblc1, lbll, lblc2, lblarmonica, lblv1, lblv2,
-                                          lblcorrente, ui::stretch())),
-                       drawing, Label7),
-            {&cmdchiamabobine, &cmdchiamaimpanodica});
+    lay_out(ui::column(
+                ui::row(ui::column(ui::form(txtra, txtz, txtf, txtq, txtcv, txtp), ui::stretch()),
+                        ui::column(lblc1, lbll, lblc2, lblarmonica, lblv1, lblv2, lblcorrente,
+                                   ui::stretch())),
+                drawing, Label7),
+            {&cmdchiamabobine, &cmdchiamaimpanodica}, 100);
   }
 
   void show_example() override { fill_in({"2846", "50", "7.05", "12", "8", "50"}); }
@@ -88,13 +89,13 @@ class frmadattimppassabasso final : public ui::Calculator {
     using Side = ui::Schematic::Side;
     constexpr double line = 7;
     constexpr double ground = 19.5;
-    constexpr ui::At valve{8, 14};
+    constexpr ui::At valve{12, 14};
     constexpr double valve_radius = 4.9;
-    constexpr double stray_x = 16;
+    constexpr double stray_x = 22;
     constexpr double stray_y = 12;
-    constexpr double c1_x = 32;
-    constexpr double c2_x = 51;
-    constexpr double antenna_x = 57;
+    constexpr double c1_x = 40;
+    constexpr double c2_x = 63;
+    constexpr double antenna_x = 71;
     drawing.circle(valve, valve_radius)
         .mark(valve, "VALVOLA")
         .wire({{valve.x, valve.y - valve_radius}, {valve.x, line}, {stray_x, line}})

@@ -58,7 +58,7 @@ class frmcodextrasfusa final : public ui::Calculator {
   enum Part : int { power, audio, intermediate_frequency, loudspeaker };
 
   static constexpr double coil_length = 4.8;
-  static constexpr double between_coils = 2.2;
+  static constexpr double between_coils = 2.8;
   static constexpr double centre_x = 48;
   static constexpr double middle_y = 15;
 

@@ -14,9 +14,13 @@ constexpr std::array conduction_degrees{class_a_degrees, class_ab_degrees, class
                                         class_c_degrees};
 constexpr ui::Range volts{10, 10000};
 constexpr double whole_cycle_degrees = 360;
+constexpr int columns = 56;
 
 ui::Axis cycle() {
-  return {.title = "ANGOLO", .unit = "GRADI", .range = ui::Interval{0, whole_cycle_degrees}};
+  return {.title = "ANGOLO",
+          .unit = "GRADI",
+          .range = ui::Interval{0, whole_cycle_degrees},
+          .step = whole_cycle_degrees / 4};
 }
 
 // The load that the anodes of a power stage must see.
@@ -47,9 +51,9 @@ class frmimpanodica final : public ui::Calculator {
   ui::Result lblrendimento{this, "lblrendimento"};
   ui::Result lbldissipazione{this, "lbldissipazione"};
   ui::Result lblpicco{this, "lblpicco"};
-  ui::Plot plot{this, "plot", cycle(), {.title = "TENSIONE ANODICA", .unit = "V"}, 48, 22};
-  ui::Plot plot2{this, "plot2", cycle(), {.title = "CORRENTE DI UNA VALVOLA", .unit = "mA"},
-                 48,   22};
+  ui::Plot plot{this, "plot", cycle(), {.title = "TENSIONE ANODICA", .unit = "V"}, columns, 22};
+  ui::Plot plot2{this,    "plot2", cycle(), {.title = "CORRENTE DI UNA VALVOLA", .unit = "mA"},
+                 columns, 22};
   ui::CompanionButton cmdchiamaadattatore{
       *this,
       "cmdchiamaadattatore",
@@ -67,7 +71,7 @@ class frmimpanodica final : public ui::Calculator {
                        ui::row(ui::column(lblimpedenza, lblingresso, lbluscita, lblrendimento,
                                           lbldissipazione, lblpicco, ui::stretch()),
                                ui::column(plot, plot2))),
-            {&cmdchiamaadattatore});
+            {&cmdchiamaadattatore}, 104);
   }
 
   void show_example() override {

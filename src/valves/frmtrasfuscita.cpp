@@ -16,7 +16,7 @@ namespace {
 using transformers::LaminatedCore;
 using Side = ui::Schematic::Side;
 
-constexpr ui::Transformer transformer{.place = {15.5, 14}, .core = ui::Transformer::Core::iron};
+constexpr ui::Transformer transformer{.place = {16.5, 14}, .core = ui::Transformer::Core::iron};
 
 // The output transformer of a valve set.
 class frmtrasfuscita final : public ui::Calculator {
@@ -93,9 +93,11 @@ class frmtrasfuscita final : public ui::Calculator {
                                ui::form(cmbvalvola, txtra, txtwatt, txtma, txtzs, txtf, txtsezione),
                                ui::stretch()),
                     drawing),
-            ui::row(ui::column(lblnucleo, lblinduttanza, lbltraferro),
-                    ui::column(lblrapporto, lblriportato, lblrendimento)),
-            table, Label11),
+            lblnucleo,
+            ui::row(
+                ui::column(lblinduttanza, lbltraferro, lblrapporto, lblriportato, lblrendimento),
+                ui::column(table, ui::stretch())),
+            Label11),
         {&cmdchiamatabella});
     Option1.on_click([this](int /*index*/) { change_circuit(); });
     cmbvalvola.on_choose([this] { take_valve(cmbvalvola.chosen_of(output_valves())); });
@@ -131,7 +133,7 @@ class frmtrasfuscita final : public ui::Calculator {
   }
 
   void draw() {
-    constexpr double speaker_x = 23.5;
+    constexpr double speaker_x = 24.5;
     drawing.clear();
     drawing.transformer(transformer)
         .wire({transformer.secondary_top, {speaker_x, transformer.secondary_top.y}})
@@ -147,7 +149,7 @@ class frmtrasfuscita final : public ui::Calculator {
   }
 
   void draw_single() {
-    constexpr ui::Triode valve{{6, 18}};
+    constexpr ui::Triode valve{{7, 18}};
     constexpr double line = 7;
     constexpr double supply = 22;
     draw_grid(valve);
@@ -160,16 +162,16 @@ class frmtrasfuscita final : public ui::Calculator {
         .wire({transformer.primary_bottom, {transformer.primary_bottom.x, supply}})
         .terminal({transformer.primary_bottom.x, supply})
         .named("+B", Side::left)
-        .label(lbldisma, {transformer.primary_bottom.x, supply}, Side::right)
+        .label(lbldisma, {transformer.primary_bottom.x + 0.4, supply}, Side::right)
         .label(lbldisra, {transformer.primary_top.x, line}, Side::above);
   }
 
   void draw_push_pull() {
-    constexpr ui::Triode upper{{6, 9}};
-    constexpr ui::Triode lower{{6, 19}, ui::Flip::upside_down};
+    constexpr ui::Triode upper{{7, 9}};
+    constexpr ui::Triode lower{{7, 19}, ui::Flip::upside_down};
     constexpr double top = 4;
     constexpr double bottom = 24;
-    constexpr double supply_x = 11.5;
+    constexpr double supply_x = 12.5;
     constexpr ui::At cathodes{upper.cathode.x, (upper.cathode.y + lower.cathode.y) / 2};
     constexpr ui::At ground{cathodes.x - 3, cathodes.y};
     draw_grid(upper);
