@@ -79,7 +79,7 @@ class frmadattimppassabasso final : public ui::Calculator {
                         ui::column(lblc1, lbll, lblc2, lblarmonica, lblv1, lblv2, lblcorrente,
                                    ui::stretch())),
                 drawing, Label7),
-            {&cmdchiamabobine, &cmdchiamaimpanodica}, 100);
+            {&cmdchiamabobine, &cmdchiamaimpanodica}, 114);
   }
 
   void show_example() override { fill_in({"2846", "50", "7.05", "12", "8", "50"}); }

@@ -15,6 +15,7 @@ constexpr std::array conduction_degrees{class_a_degrees, class_ab_degrees, class
 constexpr ui::Range volts{10, 10000};
 constexpr double whole_cycle_degrees = 360;
 constexpr int columns = 56;
+constexpr int rows = 24;
 
 ui::Axis cycle() {
   return {.title = "ANGOLO",
@@ -51,9 +52,9 @@ class frmimpanodica final : public ui::Calculator {
   ui::Result lblrendimento{this, "lblrendimento"};
   ui::Result lbldissipazione{this, "lbldissipazione"};
   ui::Result lblpicco{this, "lblpicco"};
-  ui::Plot plot{this, "plot", cycle(), {.title = "TENSIONE ANODICA", .unit = "V"}, columns, 22};
+  ui::Plot plot{this, "plot", cycle(), {.title = "TENSIONE ANODICA", .unit = "V"}, columns, rows};
   ui::Plot plot2{this,    "plot2", cycle(), {.title = "CORRENTE DI UNA VALVOLA", .unit = "mA"},
-                 columns, 22};
+                 columns, rows};
   ui::CompanionButton cmdchiamaadattatore{
       *this,
       "cmdchiamaadattatore",
@@ -65,13 +66,12 @@ class frmimpanodica final : public ui::Calculator {
     name_hint("Label4");
     Option1.preset(0);
     Option2.preset(0);
-    lay_out(ui::column(ui::row(Frame1.arrange(Option1),
-                               ui::column(Frame2.arrange(Option2), ui::stretch())),
-                       ui::form(txtva, txtia, txtvmin),
+    lay_out(ui::column(Frame1.arrange(ui::across(Option1)),
+                       ui::row(Frame2.arrange(Option2), ui::form(txtva, txtia, txtvmin)),
                        ui::row(ui::column(lblimpedenza, lblingresso, lbluscita, lblrendimento,
                                           lbldissipazione, lblpicco, ui::stretch()),
                                ui::column(plot, plot2))),
-            {&cmdchiamaadattatore}, 104);
+            {&cmdchiamaadattatore}, 118);
   }
 
   void show_example() override {
@@ -108,7 +108,12 @@ class frmimpanodica final : public ui::Calculator {
                whole_cycle_degrees)
         .marker(0, "Vmin " + eng(stage.least_anode_v, "V"))
         .marker(whole_cycle_degrees / 4, "Va " + eng(supply_v, "V"));
+    // Room for the text over the peak.
+    const double shown_ma = (1.3 * load.peak_current_a / milli).value();
     plot2
+        .axes(
+            cycle(),
+            {.title = "CORRENTE DI UNA VALVOLA", .unit = "mA", .range = ui::Interval{0, shown_ma}})
         .curve([&](Real degrees) { return anode_current_a(stage, degrees) / milli; }, 0,
                whole_cycle_degrees)
         .marker(0, "Ipk " + eng(load.peak_current_a, "A"));

@@ -63,7 +63,7 @@ class frmtrasfuscita final : public ui::Calculator {
                          {"lblspire", "SPIRE"},
                          {"lblfilo", "FILO"},
                          {"lblresistenza", "RESISTENZA"}}};
-  ui::Schematic drawing{this, "drawing", 48, 29};
+  ui::Schematic drawing{this, "drawing", 46, 29};
   ui::Value lbldisra{drawing, "lbldisra"};
   ui::Value lbldiszs{drawing, "lbldiszs"};
   ui::Value lbldisma{drawing, "lbldisma"};
@@ -133,7 +133,7 @@ class frmtrasfuscita final : public ui::Calculator {
   }
 
   void draw() {
-    constexpr double speaker_x = 24.5;
+    constexpr double speaker_x = 23;
     drawing.clear();
     drawing.transformer(transformer)
         .wire({transformer.secondary_top, {speaker_x, transformer.secondary_top.y}})
