@@ -87,8 +87,8 @@ class frmtrasformatori final : public ui::Calculator {
     }
     txtvolt[0].prompt().reserve(tapped_first);
     draw();
-    lay_out(ui::column(ui::form(txtprimario, cmblamierini, txtsezione), Frame1.arrange(Option1),
-                       ui::table({&Label4, &Label5}, rows),
+    lay_out(ui::column(ui::row(ui::form(txtprimario, cmblamierini, txtsezione), ui::stretch()),
+                       Frame1.arrange(Option1), ui::table({&Label4, &Label5}, rows),
                        ui::row(ui::column(lblnucleo, lblspirevolt, lblpotenza, lblrendimento, table,
                                           ui::stretch()),
                                drawing),

@@ -71,7 +71,7 @@ class frmimpanodica final : public ui::Calculator {
                        ui::row(ui::column(lblimpedenza, lblingresso, lbluscita, lblrendimento,
                                           lbldissipazione, lblpicco, ui::stretch()),
                                ui::column(plot, plot2))),
-            {&cmdchiamaadattatore}, 118);
+            {&cmdchiamaadattatore}, 122);
   }
 
   void show_example() override {
