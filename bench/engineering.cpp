@@ -77,10 +77,16 @@
 #include "signals/waveform.h"
 #include "transistors/emitter_bias.h"
 #include "transistors/stage_matching.h"
+#include "transformers/laminated_core.h"
+#include "transformers/mains_transformer.h"
+#include "transformers/smoothing_choke.h"
+#include "transformers/universal_autotransformer.h"
 #include "units/locator.h"
 #include "units/mils.h"
 #include "units/temperature.h"
 #include "units/wire_gauge.h"
+#include "valves/output_transformer.h"
+#include "valves/pi_network.h"
 
 namespace eterlab::bench {
 
@@ -350,6 +356,24 @@ void register_transistors() {
   call("transistors/pi_network", pi_network, ends, 3.0);
 }
 
+void register_transformers() {
+  using namespace transformers;
+  const MainsTransformerTask mains{230, laminations()[1], {{250, 0.06, true}, {6.3, 2}}};
+  call("transformers/smallest_core", [mains] {
+    return smallest_core(
+        [&mains](const LaminatedCore& core) { return mains_transformer(mains, core).fits; });
+  });
+  call("transformers/smoothing_choke", smoothing_choke, ChokeTask{10, 0.06}, LaminatedCore{3.1});
+  call("transformers/nearest_taps", nearest_taps, 230.0, 125.0);
+}
+
+void register_valves() {
+  using namespace valves;
+  const OutputStage stage{OutputCircuit::single, 5200, 5.7, 0.048, 8, 70};
+  call("valves/output_transformer", output_transformer, stage, transformers::LaminatedCore{5.6});
+  call("valves/pi_network", pi_network, PiNetworkTask{2846, 50, 7.05e6, 12});
+}
+
 }  // namespace
 
 void register_engineering() {
@@ -366,6 +390,8 @@ void register_engineering() {
   register_lines();
   register_power();
   register_transistors();
+  register_transformers();
+  register_valves();
 }
 
 }  // namespace eterlab::bench
