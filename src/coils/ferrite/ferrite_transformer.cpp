@@ -17,7 +17,8 @@ FerriteTransformer ferrite_transformer(const FerriteCore& core, Real low_ohm, Re
   constexpr double noise = 1e-9;
   constexpr double good_ratio = 1.05 + noise;
 
-  FerriteTransformer best{.turn_impedance_ohm = turn_impedance_ohm(core, lowest_frequency_hz)};
+  FerriteTransformer best{};
+  best.turn_impedance_ohm = turn_impedance_ohm(core, lowest_frequency_hz);
   const Real least = least_low_turns(core, low_ohm, lowest_frequency_hz);
   for (int more = 0; more < turns_tried; ++more) {
     const Real turns = least + more;
