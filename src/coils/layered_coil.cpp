@@ -173,12 +173,10 @@ int turns_per_layer(const Layering& layering) {
   return static_cast<int>(floor(layering.width_m / layering.wire_m + noise).value());
 }
 
+bool is_limited_by_layers(const Layering& layering) { return turns_per_layer(layering) < 15; }
+
 int most_turns(const Layering& layering) {
-  constexpr int most = 1500;
-  constexpr int few_per_layer = 15;
-  constexpr int most_layers = 100;
-  const int per_layer = turns_per_layer(layering);
-  return per_layer < few_per_layer ? most_layers * per_layer : most;
+  return is_limited_by_layers(layering) ? 100 * turns_per_layer(layering) : 1500;
 }
 
 LayeredCoil layered_coil(const RoundForm& form, const Layering& layering, int turns) {

@@ -26,7 +26,10 @@ struct Layering {
 /// How many turns stand side by side; none where the wire is thicker than the width.
 int turns_per_layer(const Layering& layering);
 
-/// The most turns that are computed: 1500, of less than 15 side by side 100 layers.
+/// Whether the most turns are 100 layers: with less than 15 turns side by side.
+bool is_limited_by_layers(const Layering& layering);
+
+/// The most turns that are computed: those of 100 layers, or 1500.
 int most_turns(const Layering& layering);
 
 /// A coil in layers, the last of which may be begun.

@@ -138,12 +138,16 @@ std::vector<Tick> Ruler::ticks(int texts) const {
 }
 
 std::vector<Tick> Ruler::even_ticks(int texts) const {
-  const auto step = RoundStep::above((range_.to - range_.from) / texts);
-  const double first = std::ceil(range_.from / step.value() - rounding_error);
-  const double last = std::floor(range_.to / step.value() + rounding_error);
+  const auto round_step = RoundStep::above((range_.to - range_.from) / texts);
+  const auto at = [&](double count) {
+    return axis_.step ? count * *axis_.step : round_step.times(count);
+  };
+  const double step = at(1);
+  const double first = std::ceil(range_.from / step - rounding_error);
+  const double last = std::floor(range_.to / step + rounding_error);
   std::vector<Tick> ticks;
   for (int i = 0; i <= static_cast<int>(last - first); ++i) {
-    const double value = step.times(first + i);
+    const double value = at(first + i);
     ticks.push_back({value, tick_text(value)});
   }
   return ticks;

@@ -34,6 +34,8 @@ struct Axis {
   std::optional<Interval> range = {};
   /// Grows to the left, or downwards.
   bool is_reversed = false;
+  /// Between ticks on a linear scale, where the range is known to have room for all of them.
+  std::optional<double> step = {};
 };
 
 struct Tick {
