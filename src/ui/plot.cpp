@@ -225,6 +225,43 @@ double Plot::Picture::y_at(double value) const {
 
 QPointF Plot::place_of(Real x, Real y) const { return picture().at(x.value(), y.value()); }
 
+bool Plot::Picture::is_crossed(const QRectF& room) const {
+  return std::any_of(on_curves.begin(), on_curves.end(),
+                     [&](QPointF point) { return room.contains(point); });
+}
+
+std::optional<QRectF> Plot::Picture::free_room(QPointF place, QSizeF size,
+                                               const std::vector<Letters>& taken) const {
+  // Better farther off than over a curve.
+  const QRectF within = inside();
+  std::optional<QRectF> best;
+  double least_cost = 0;
+  const int rows = static_cast<int>(frame.height() / size.height()) + 1;
+  for (int row = -rows; row <= rows; ++row) {
+    for (const double side : {1.0, -1.0, 0.0}) {
+      const QPointF away{side * (size.width() / 2 + (0.5 + gap) * grid_step()),
+                         (row - 0.4 * std::abs(side)) * size.height()};
+      QRectF room = room_centred_at(place + away, size);
+      room.moveLeft(std::clamp(room.left(), within.left(),
+                               std::max(within.left(), within.right() - size.width())));
+      if (!within.contains(room) || !is_clear_of(room, taken)) {
+        continue;
+      }
+      const QPointF from_place = room.center() - place;
+      const double distance = std::hypot(from_place.x() / 2, from_place.y());
+      if (best && distance >= least_cost) {
+        continue;
+      }
+      const double cost = distance + (is_crossed(room) ? 4 * size.height() : 0);
+      if (!best || cost < least_cost) {
+        best = room;
+        least_cost = cost;
+      }
+    }
+  }
+  return best;
+}
+
 const Plot::Picture& Plot::picture() const {
   if (!picture_) {
     picture_ = drawn();
@@ -411,46 +448,17 @@ void Plot::add_markers(Picture& picture) const {
     taken.push_back({room_centred_at(visible, QSizeF{step, step}), {}});
   }
 
-  const auto is_crossed = [&](const QRectF& room) {
-    return std::any_of(picture.on_curves.begin(), picture.on_curves.end(),
-                       [&](QPointF point) { return room.contains(point); });
-  };
-  const QRectF inside = frame.adjusted(2, 2, -2, -2);
+  const double widest = picture.inside().width();
   for (const Standing& marker : standing) {
-    const QString text = metrics.elidedText(marker.text, Qt::ElideRight, inside.width());
-    const QSizeF size = size_of(text, metrics);
-    // Of the room that is free the nearest, better farther off than over a curve.
-    std::optional<QRectF> best;
-    double least_cost = 0;
-    const int rows = static_cast<int>(frame.height() / size.height()) + 1;
-    for (int row = -rows; row <= rows; ++row) {
-      for (const double side : {1.0, -1.0, 0.0}) {
-        const QPointF away{side * (size.width() / 2 + (0.5 + gap) * step),
-                           (row - 0.4 * std::abs(side)) * size.height()};
-        QRectF room = room_centred_at(marker.place + away, size);
-        room.moveLeft(std::clamp(room.left(), inside.left(), inside.right() - size.width()));
-        if (!inside.contains(room) || !is_clear_of(room, taken)) {
-          continue;
-        }
-        const QPointF from_dot = room.center() - marker.place;
-        const double distance = std::hypot(from_dot.x() / 2, from_dot.y());
-        if (best && distance >= least_cost) {
-          continue;
-        }
-        const double cost = distance + (is_crossed(room) ? 4 * size.height() : 0);
-        if (!best || cost < least_cost) {
-          best = room;
-          least_cost = cost;
-        }
-      }
-    }
+    const QString text = metrics.elidedText(marker.text, Qt::ElideRight, widest);
+    const auto best = picture.free_room(marker.place, size_of(text, metrics), taken);
     if (best) {
       taken.push_back({*best, text});
       picture.letters.push_back(taken.back());
       picture.blanks.push_back(*best);
       const QPointF near{std::clamp(marker.place.x(), best->left(), best->right()),
                          std::clamp(marker.place.y(), best->top(), best->bottom())};
-      if (QLineF{near, marker.place}.length() > size.height()) {
+      if (QLineF{near, marker.place}.length() > metrics.height()) {
         picture.ground.add(Look::thin_line, Fit::exact, segment(marker.place, near));
       }
     }
@@ -501,18 +509,26 @@ void Plot::point_at(const std::optional<Pointed>& place) {
   readout_ = (name.empty() ? "" : name + ": ") + picture().x.told(place->x, digits_of_place) +
              " ; " + picture().y.told(place->y);
   readout_.adjustSize();
-  // Beside the cross, on the side where there is more room.
+  readout_.move(readout_room(picture().at(place->x, place->y), readout_.size()).toPoint());
+  readout_.show();
+}
+
+QPointF Plot::readout_room(QPointF cross, QSizeF size) const {
+  // At the corner of the cross where there is more room; where texts stand there, beside them.
   const QRectF& frame = picture().frame;
-  const QPointF cross = picture().at(place->x, place->y);
-  const QSizeF size = readout_.size();
   const double aside = grid_step();
   const double left =
       cross.x() < frame.center().x() ? cross.x() + aside : cross.x() - aside - size.width();
   const double top =
       cross.y() > frame.center().y() ? cross.y() - aside - size.height() : cross.y() + aside;
-  readout_.move(qRound(std::clamp(left, 0.0, std::max(0.0, width() - size.width()))),
-                qRound(std::clamp(top, frame.top(), frame.bottom() - size.height())));
-  readout_.show();
+  const QPointF usual{std::clamp(left, 0.0, std::max(0.0, width() - size.width())),
+                      std::clamp(top, frame.top(), frame.bottom() - size.height())};
+  const std::vector<Letters>& taken = picture().letters;
+  if (is_clear_of({usual, size}, taken)) {
+    return usual;
+  }
+  const auto free = picture().free_room(cross, size, taken);
+  return free ? free->topLeft() : usual;
 }
 
 std::optional<Plot::Pointed> Plot::nearest(QPointF pixel) const {

@@ -83,6 +83,12 @@ class Plot final : public QWidget, public Blankable {
     [[nodiscard]] QPointF at(double x_value, double y_value) const {
       return {x_at(x_value), y_at(y_value)};
     }
+    /// Where texts may stand.
+    [[nodiscard]] QRectF inside() const { return frame.adjusted(2, 2, -2, -2); }
+    /// Of the room beside a place that others leave free the nearest.
+    [[nodiscard]] std::optional<QRectF> free_room(QPointF place, QSizeF size,
+                                                  const std::vector<Letters>& taken) const;
+    [[nodiscard]] bool is_crossed(const QRectF& room) const;
   };
   struct Pointed {
     std::size_t curve;
@@ -104,6 +110,7 @@ class Plot final : public QWidget, public Blankable {
 
   /// Shows the cross at a place, or takes it away.
   void point_at(const std::optional<Pointed>& place);
+  [[nodiscard]] QPointF readout_room(QPointF cross, QSizeF size) const;
   [[nodiscard]] std::optional<Pointed> on_curve(std::size_t curve, double x) const;
   [[nodiscard]] std::optional<Pointed> nearest(QPointF pixel) const;
   void point_at_start();

@@ -162,6 +162,18 @@ TEST_F(Plot, TellsTheValueUnderTheMouse) {
   EXPECT_LT(ink(image(), plot.place_of(14.1, 2.5)), black);
 }
 
+TEST_F(Plot, TellsValuesBesideWhatIsWritten) {
+  plot.curve(standing_wave_ratio, 14, 14.4).marker(14.1, "a").marker(14.1, 4, "b").marker(14.2, "");
+  const auto* readout = plot.findChild<QLabel*>("plot_readout");
+  for (const double x : {14.05, 14.1, 14.11, 14.15, 14.2, 14.39}) {
+    point_at(x, 3);
+    for (const ui::Letters& letters : plot.letters()) {
+      EXPECT_FALSE(letters.room.adjusted(1, 1, -1, -1).intersects(readout->geometry()))
+          << x << ' ' << ui::from_qt(letters.text);
+    }
+  }
+}
+
 TEST_F(Plot, TellsValuesByTheKeyboard) {
   plot.curve(standing_wave_ratio, 14, 14.4, "A").curve([](Real) { return 3; }, 14, 14.4, "B");
   plot.marker(14.3, 3, "limite");

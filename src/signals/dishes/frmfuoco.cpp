@@ -20,7 +20,7 @@ class frmfuoco final : public ui::Calculator {
   ui::Result lblrapporto{this, "lblrapporto"};
   ui::Result lblangolo{this, "lblangolo"};
   ui::Result lblbordo{this, "lblbordo"};
-  ui::Schematic drawing{this, "drawing", 44, 38};
+  ui::Schematic drawing{this, "drawing", 50, 38};
   ui::Value lblvalorediametro{drawing, "lblvalorediametro"};
   ui::Value lblvaloreprofondita{drawing, "lblvaloreprofondita"};
   ui::Value lblvalorefuoco{drawing, "lblvalorefuoco"};
@@ -69,8 +69,8 @@ class frmfuoco final : public ui::Calculator {
         .mark({diameter_x, axis_y - 1}, "D", Side::left)
         .label(lblvalorediametro, {diameter_x, axis_y + 1}, Side::left)
         .dimension({left, depth_y}, {rim_x, depth_y})
-        .mark({rim_x, depth_y}, "p", Side::right)
-        .label(lblvaloreprofondita, {rim_x + 1.5, depth_y}, Side::right)
+        .mark({left, depth_y}, "p", Side::left)
+        .label(lblvaloreprofondita, {rim_x, depth_y}, Side::right)
         .dimension({left, focal_length_y}, {focus_x, focal_length_y})
         .mark({(left + focus_x) / 2, focal_length_y}, "f", Side::below)
         .label(lblvalorefuoco, {(left + focus_x) / 2, focal_length_y + 2}, Side::below);
