@@ -127,6 +127,7 @@ class frmadattatoriLC final : public ui::Calculator {
     constexpr double middle = (input + output) / 2;
     constexpr double at_input = 14;
     constexpr double at_output = 35;
+    constexpr double beside = 1.8;
     const std::array<Part, 3>& parts = network().parts;
     drawing.clear();
     drawing.resistor({input, top}, {input, bottom})
@@ -137,7 +138,9 @@ class frmadattatoriLC final : public ui::Calculator {
         .ground({middle, bottom});
     const auto across = [&](const Part& part, double at, ui::Value& value) {
       add(part, {at, top}, {at, bottom});
-      drawing.named(value, Side::right).junction({at, top}).junction({at, bottom});
+      drawing.label(value, {at + beside, (top + bottom) / 2}, Side::right)
+          .junction({at, top})
+          .junction({at, bottom});
     };
     const auto in_line = [&](const Part& part, double from, double to, ui::Value& value) {
       add(part, {from, top}, {to, top});

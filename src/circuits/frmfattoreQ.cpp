@@ -50,9 +50,9 @@ class frmfattoreQ final : public ui::Calculator {
   frmfattoreQ() : Calculator{"frmfattoreQ", "FATTORE DI MERITO Q E BANDA PASSANTE"} {
     Option1.preset(of_a_coil);
     ask();
-    lay_out(ui::row(ui::column(Option1, ui::form(txt1, txt2, txt3), lbloutput1, lbloutput2,
-                               lbloutput3, lbloutput4, ui::stretch(), Label6),
-                    plot));
+    lay_out(
+        ui::column(ui::row(ui::column(Option1, ui::form(txt1, txt2, txt3), ui::stretch()), plot),
+                   lbloutput1, lbloutput2, lbloutput3, lbloutput4, Label6));
 
     Option1.on_click([this](int) {
       for (ui::Input* box : {&txt1, &txt2, &txt3}) {

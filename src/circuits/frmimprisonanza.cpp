@@ -60,6 +60,8 @@ class frmimprisonanza final : public ui::Calculator {
     using Side = ui::Schematic::Side;
     constexpr double top = 4;
     constexpr double bottom = 14;
+    constexpr double middle = (top + bottom) / 2;
+    constexpr double beside = 1.8;  // a capacitor
     constexpr double terminal = 4;
     constexpr double coil = 9;
     constexpr double capacitor = 16;
@@ -70,7 +72,7 @@ class frmimprisonanza final : public ui::Calculator {
         .inductor({coil, top}, {coil, bottom})
         .named("L", Side::right)
         .capacitor({capacitor, top}, {capacitor, bottom})
-        .named("C", Side::right)
+        .mark({capacitor + beside, middle}, "C", Side::right)
         .junction({coil, top})
         .junction({coil, bottom})
         .label(lblzp, {(terminal + capacitor) / 2, bottom + 2.5}, Side::below);
@@ -82,7 +84,7 @@ class frmimprisonanza final : public ui::Calculator {
         .inductor({start, top}, {end, top})
         .named("L", Side::above)
         .capacitor({end, top}, {end, bottom})
-        .named("C", Side::right)
+        .mark({end + beside, middle}, "C", Side::right)
         .wire({{end, bottom}, {start, bottom}})
         .label(lblzs, {(start + end) / 2, bottom + 2.5}, Side::below);
   }

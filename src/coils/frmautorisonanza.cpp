@@ -95,7 +95,7 @@ class frmautorisonanza final : public ui::Calculator {
         .named(lbll, Side::left)
         .dashed({{coil, top}, {capacitor, top}, {capacitor, middle - half}})
         .capacitor({capacitor, middle - half}, {capacitor, middle + half})
-        .named(lblc, Side::right)
+        .label(lblc, {capacitor + 1.8, middle}, Side::right)
         .dashed({{capacitor, middle + half}, {capacitor, bottom}, {coil, bottom}})
         .junction({coil, top})
         .junction({coil, bottom})

@@ -94,7 +94,7 @@ class frmbobinarettangolare final : public ui::Calculator {
     constexpr double pitch = 1.4;
     constexpr int per_layer = 7;
     constexpr double right = left + per_layer * pitch;
-    constexpr double foot = 13;
+    constexpr double foot = 14;
     drawing.shaded_box({left - 1, foot}, {right + 1, foot + 2});
     for (int layer = 0; layer < turns; ++layer) {
       for (int i = 0; i < per_layer; ++i) {

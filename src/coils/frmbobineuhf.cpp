@@ -95,7 +95,7 @@ class frmbobineuhf final : public ui::Calculator {
     drawing.rod({{cold, plane}, {cold, conductor}, {hot, conductor}})
         .rod({{cold, plane}, {hot + 3, plane}})
         .capacitor({hot, conductor}, {hot, plane})
-        .named(lblc)
+        .label(lblc, {hot + 1.8, (conductor + plane) / 2}, Side::right)
         .ground({cold + 3, plane});
     for (const double end : {cold, hot}) {
       drawing.extension({end, conductor - 0.7}, {end, above - 0.5});

@@ -89,7 +89,7 @@ class frmmicrobobine final : public ui::Calculator {
     drawing.winding({left, (top + bottom) / 2}, {right, (top + bottom) / 2}, bottom - top, 6);
     for (const double end : {left, right}) {
       drawing.wire({{end, bottom}, {end, bottom + 3}})
-          .extension({end, bottom - 1}, {end, above - 0.5});
+          .extension({end, top - 0.7}, {end, above - 0.5});
     }
     drawing.dimension({left, above}, {right, above})
         .label(lbll, {(left + right) / 2, above - 0.5}, ui::Schematic::Side::above)

@@ -49,8 +49,8 @@ class frmtrasferroxcube final : public ui::Calculator {
     }
     draw();
     lay_out(ui::column(
-        ui::row(ui::column(ui::form(field(cmbnucleo_prompt, cmbnucleo)), lblnucleo,
-                           ui::form(txtprimario, txtsecondario, txtfrequenza), ui::stretch()),
+        ui::row(ui::form(field(cmbnucleo_prompt, cmbnucleo)), ui::stretch()), lblnucleo,
+        ui::row(ui::column(ui::form(txtprimario, txtsecondario, txtfrequenza), ui::stretch()),
                 drawing),
         lblprimario, lblsecondario, lblimpedenza, lblreattanza, lblpotenza, lblperdita, Label6));
 
