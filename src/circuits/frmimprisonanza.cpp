@@ -24,7 +24,7 @@ class frmimprisonanza final : public ui::Calculator {
   ui::Input txtcapacita{
       this, "txtcapacita", capacitance_prompt, {.range = ui::Range{0.1, 10'000'000}}};
   ui::Input txtinput{this, "txtinput", q_prompt, {.range = q_range, .prompt_name = "lblinput"}};
-  ui::Schematic drawing{this, "drawing", 48, 21};
+  ui::Schematic drawing{this, "drawing", 54, 20};
   ui::Value lblzp{drawing, "lblzp"};
   ui::Value lblzs{drawing, "lblzs"};
   ui::Result lblfrequenza{this, "lblfrequenza"};
@@ -62,9 +62,9 @@ class frmimprisonanza final : public ui::Calculator {
     constexpr double bottom = 14;
     constexpr double middle = (top + bottom) / 2;
     constexpr double beside = 1.8;  // a capacitor
-    constexpr double terminal = 4;
-    constexpr double coil = 9;
-    constexpr double capacitor = 16;
+    constexpr double terminal = 10;
+    constexpr double coil = 15;
+    constexpr double capacitor = 22;
     drawing.terminal({terminal, top})
         .terminal({terminal, bottom})
         .wire({{terminal, top}, {capacitor, top}})
@@ -77,8 +77,8 @@ class frmimprisonanza final : public ui::Calculator {
         .junction({coil, bottom})
         .label(lblzp, {(terminal + capacitor) / 2, bottom + 2.5}, Side::below);
 
-    constexpr double start = 29;
-    constexpr double end = 39;
+    constexpr double start = 37;
+    constexpr double end = 47;
     drawing.terminal({start, top})
         .terminal({start, bottom})
         .inductor({start, top}, {end, top})

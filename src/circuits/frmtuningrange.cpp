@@ -46,10 +46,9 @@ class frmtuningrange final : public ui::Calculator {
  public:
   frmtuningrange() : Calculator{"frmtuningrange", "GAMMA COPERTA DA UN CONDENSATORE VARIABILE"} {
     Option1.preset(0);
-    lay_out(
-        ui::column(ui::row(ui::column(Option1, ui::form(txtcmin, txtcmax, txt3, txt4), lbloutput1,
-                                      lbloutput2, lbloutput3, ui::stretch(), Label6),
-                           plot)));
+    lay_out(ui::column(
+        ui::row(ui::column(Option1, ui::form(txtcmin, txtcmax, txt3, txt4), ui::stretch()), plot),
+        lbloutput1, lbloutput2, lbloutput3, Label6));
 
     Option1.on_click([this](int) {
       if (is_range_wanted()) {

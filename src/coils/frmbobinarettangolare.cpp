@@ -32,7 +32,7 @@ class frmbobinarettangolare final : public ui::Calculator {
                      "txtinput",
                      inductance_prompt,
                      {.range = inductance_range_uh, .prompt_name = "lblinput"}};
-  ui::Schematic drawing{this, "drawing", 57, 27};
+  ui::Schematic drawing{this, "drawing", 56, 23};
   ui::Value lbla{drawing, "lbla", "A"};
   ui::Value lblb{drawing, "lblb", "B"};
   ui::Value lbllarg{drawing, "lbllarg", "W"};
@@ -68,12 +68,12 @@ class frmbobinarettangolare final : public ui::Calculator {
   // The form from the front in its turns; beside it the winding cut across.
   void draw() {
     using Side = ui::Schematic::Side;
-    constexpr ui::At corner{6, 5};
-    constexpr ui::At opposite{22, 17};
+    constexpr ui::At corner{4, 5};
+    constexpr ui::At opposite{16, 14};
     constexpr double turn = 0.9;
     constexpr int turns = 3;
-    constexpr double below = 22.5;
-    constexpr double beside = 27;
+    constexpr double below = 19;
+    constexpr double beside = 21;
     drawing.shaded_box(corner, opposite);
     for (int i = 1; i <= turns; ++i) {
       drawing.box({corner.x - i * turn, corner.y - i * turn},
@@ -90,11 +90,11 @@ class frmbobinarettangolare final : public ui::Calculator {
         .dimension({beside, corner.y}, {beside, opposite.y})
         .label(lblb, {beside + 0.5, (corner.y + opposite.y) / 2}, Side::right);
 
-    constexpr double left = 43;
+    constexpr double left = 42;
     constexpr double pitch = 1.4;
     constexpr int per_layer = 7;
     constexpr double right = left + per_layer * pitch;
-    constexpr double foot = 14;
+    constexpr double foot = 13;
     drawing.shaded_box({left - 1, foot}, {right + 1, foot + 2});
     for (int layer = 0; layer < turns; ++layer) {
       for (int i = 0; i < per_layer; ++i) {

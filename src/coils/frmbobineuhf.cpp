@@ -50,7 +50,7 @@ class frmbobineuhf final : public ui::Calculator {
                         "txtdistanza",
                         kinds[0].distance_prompt,
                         {.range = distance_range_mm, .prompt_name = "lbldistanza"}};
-  ui::Schematic drawing{this, "drawing", 44, 18};
+  ui::Schematic drawing{this, "drawing", 46, 18};
   ui::Value lbll{drawing, "lbll", "L"};
   ui::Value lblc{drawing, "lblc", "C"};
   ui::Result lblz0{this, "lblz0"};
@@ -88,7 +88,7 @@ class frmbobineuhf final : public ui::Calculator {
   void draw() {
     using Side = ui::Schematic::Side;
     constexpr double cold = 3;
-    constexpr double hot = 27;
+    constexpr double hot = 25;
     constexpr double conductor = 7;
     constexpr double plane = 14;
     constexpr double above = 4;

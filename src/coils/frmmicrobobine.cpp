@@ -40,7 +40,7 @@ class frmmicrobobine final : public ui::Calculator {
                      "txtinput",
                      inductance_prompt,
                      {.range = inductance_range_uh, .prompt_name = "lblinput"}};
-  ui::Schematic drawing{this, "drawing", 42, 20};
+  ui::Schematic drawing{this, "drawing", 46, 20};
   ui::Value lbll{drawing, "lbll", "L"};
   ui::Value lbld{drawing, "lbld", "D"};
   ui::Result lblspire{this, "lblspire"};

@@ -1,8 +1,5 @@
 #include "support/form_test.h"
 
-// Where no other source is told, results come from the formulas in Python, the sums over turns
-// with the elliptic integrals of SciPy.
-
 namespace eterlab::test {
 namespace {
 
@@ -60,7 +57,7 @@ TEST_F(frmbobinepiatte, RoundAndSquare) {
                  "SPAZIO TROPPO LARGO: AL MASSIMO TRE VOLTE LA PISTA");
   expect_refusal("0|0|20|1|1|0.02", "txtdiametro",
                  "BASTA MENO DI UNA SPIRA: RIDURRE IL DIAMETRO INTERNO", advice);
-  expect_refusal("0|0|1|0.1|0.1|10", "txtdiametro",
+  expect_refusal("0|0|1|0.1|0.1|50", "txtdiametro",
                  "OCCORRONO PIU' DI 50 SPIRE: AUMENTARE IL DIAMETRO INTERNO", advice);
 }
 
@@ -80,7 +77,7 @@ TEST_F(frmbobinamulticircolare, TurnsOfAnInductance) {
          "SPIRE = 204|L = 470,86 uH|STRATI = 7  (32 SPIRE PER STRATO)|DIAMETRO ESTERNO = 15,5 mm|"
          "FILO NECESSARIO = 8,7 mt.|RESISTENZA CIRCA 3,62 Ohm");
   expect_refusal("100|20|1|1.2", "txtfilo", too_thick);
-  expect_refusal("1|200|10|0.3", "txtdiametro",
+  expect_refusal("1|200|10|0.05", "txtdiametro",
                  "BASTA MENO DI UNA SPIRA: RIDURRE IL DIAMETRO DEL SUPPORTO", advice);
   expect_refusal("100000|2|1|1", "txtlarghezza", too_many_layers, advice);
   expect_refusal("100000|2|200|0.05", "txtdiametro",

@@ -26,7 +26,7 @@ class frmtrasferroxcube final : public ui::Calculator {
       this, "txtsecondario", "IMPEDENZA DEL SECONDARIO in OHM", {.range = impedance_range_ohm}};
   ui::Input txtfrequenza{
       this, "txtfrequenza", "FREQUENZA PIU' BASSA in MHz", {.range = ui::Range{0.05, 60}}};
-  ui::Schematic drawing{this, "drawing", 26, 14};
+  ui::Schematic drawing{this, "drawing", 26, 12};
   ui::Value lblp{drawing, "lblp", "P"};
   ui::Value lbls{drawing, "lbls", "S"};
   ui::Result lblprimario{this, "lblprimario"};
@@ -73,7 +73,7 @@ class frmtrasferroxcube final : public ui::Calculator {
 
   void draw() {
     using Side = ui::Schematic::Side;
-    constexpr ui::Transformer transformer{{13, 7}, ui::Transformer::Core::iron};
+    constexpr ui::Transformer transformer{{13, 6}, ui::Transformer::Core::iron};
     constexpr double left = 3;
     constexpr double right = 23;
     drawing.transformer(transformer)
