@@ -32,7 +32,7 @@ class frmbobinarettangolare final : public ui::Calculator {
                      "txtinput",
                      inductance_prompt,
                      {.range = inductance_range_uh, .prompt_name = "lblinput"}};
-  ui::Schematic drawing{this, "drawing", 56, 23};
+  ui::Schematic drawing{this, "drawing", 51, 22};
   ui::Value lbla{drawing, "lbla", "A"};
   ui::Value lblb{drawing, "lblb", "B"};
   ui::Value lbllarg{drawing, "lbllarg", "W"};
@@ -69,11 +69,11 @@ class frmbobinarettangolare final : public ui::Calculator {
   void draw() {
     using Side = ui::Schematic::Side;
     constexpr ui::At corner{4, 5};
-    constexpr ui::At opposite{16, 14};
+    constexpr ui::At opposite{14, 13};
     constexpr double turn = 0.9;
     constexpr int turns = 3;
-    constexpr double below = 19;
-    constexpr double beside = 21;
+    constexpr double below = 18;
+    constexpr double beside = 18;
     drawing.shaded_box(corner, opposite);
     for (int i = 1; i <= turns; ++i) {
       drawing.box({corner.x - i * turn, corner.y - i * turn},
@@ -90,11 +90,11 @@ class frmbobinarettangolare final : public ui::Calculator {
         .dimension({beside, corner.y}, {beside, opposite.y})
         .label(lblb, {beside + 0.5, (corner.y + opposite.y) / 2}, Side::right);
 
-    constexpr double left = 42;
+    constexpr double left = 38;
     constexpr double pitch = 1.4;
-    constexpr int per_layer = 7;
+    constexpr int per_layer = 6;
     constexpr double right = left + per_layer * pitch;
-    constexpr double foot = 13;
+    constexpr double foot = 12;
     drawing.shaded_box({left - 1, foot}, {right + 1, foot + 2});
     for (int layer = 0; layer < turns; ++layer) {
       for (int i = 0; i < per_layer; ++i) {
