@@ -1,3 +1,4 @@
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -16,9 +17,13 @@ constexpr ui::Range coil_range_uh{0.001, 100'000};
 constexpr ui::Range parallel_range_pf{0, 5000};
 constexpr ui::Range tuned_range_mhz{0.01, 1000};
 
-const ui::Axis rotation_axis{
-    .title = "ROTAZIONE", .unit = "%", .range = ui::Interval{0, 100}, .step = 20};
-const ui::Axis frequency_axis{.title = "FREQUENZA", .unit = "MHz"};
+ui::Axis rotation_axis() {
+  return {.title = "ROTAZIONE", .unit = "%", .range = ui::Interval{0, 100}, .step = 20};
+}
+
+ui::Axis frequency_axis(std::optional<ui::Interval> range = {}) {
+  return {.title = "FREQUENZA", .unit = "MHz", .range = range};
+}
 
 // What a variable capacitor tunes a coil over, or what makes it cover a band.
 class frmtuningrange final : public ui::Calculator {
@@ -39,7 +44,7 @@ class frmtuningrange final : public ui::Calculator {
   ui::Result lbloutput1{this, "lbloutput1"};
   ui::Result lbloutput2{this, "lbloutput2"};
   ui::Result lbloutput3{this, "lbloutput3"};
-  ui::Plot plot{this, "plot", rotation_axis, frequency_axis, 44, 30};
+  ui::Plot plot{this, "plot", rotation_axis(), frequency_axis(), 44, 30};
   ui::Note Label6{this, "Label6",
                   "LE CAPACITA' PARASSITE DI UN CIRCUITO SONO DI SOLITO 5 - 20 pF."};
 
@@ -111,14 +116,15 @@ class frmtuningrange final : public ui::Calculator {
 
   void show(const VariableCapacitor& variable, const TuningParts& parts, const TuningRange& range) {
     lbloutput3 = "RAPPORTO DI GAMMA = " + fixed(range.highest_hz / range.lowest_hz, 2);
-    ui::Axis frequency = frequency_axis;
-    frequency.range = {(range.lowest_hz / 1e6).value(), (range.highest_hz / 1e6).value()};
-    plot.axes(rotation_axis, frequency)
+    const Real lowest_mhz = range.lowest_hz / 1e6;
+    const Real highest_mhz = range.highest_hz / 1e6;
+    plot.axes(rotation_axis(),
+              frequency_axis(ui::Interval{lowest_mhz.value(), highest_mhz.value()}))
         .curve(
             [=](Real percent) { return tuned_frequency_hz(variable, parts, percent / 100) / 1e6; },
             0, 100)
-        .marker(0, range.lowest_hz / 1e6, megahertz_text(range.lowest_hz))
-        .marker(100, range.highest_hz / 1e6, megahertz_text(range.highest_hz));
+        .marker(0, lowest_mhz, megahertz_text(range.lowest_hz))
+        .marker(100, highest_mhz, megahertz_text(range.highest_hz));
   }
 
   static std::string megahertz_text(Real frequency_hz) {
