@@ -29,17 +29,28 @@
 #include "capacitors/series_capacitor.h"
 #include "circuits/handbook_reactance.h"
 #include "circuits/handbook_resonance.h"
+#include "circuits/lc_matching.h"
 #include "circuits/ohms_law.h"
 #include "circuits/proportioned_tank.h"
+#include "circuits/quality_factor.h"
 #include "circuits/time_constant.h"
+#include "circuits/tuning_range.h"
+#include "coils/ferrite/ferrite_cores.h"
+#include "coils/ferrite/ferrite_transformer.h"
 #include "coils/flat_spiral.h"
+#include "coils/layered_coil.h"
 #include "coils/multilayer_coil.h"
+#include "coils/printed_coil.h"
+#include "coils/resonant_line.h"
+#include "coils/self_resonance.h"
+#include "coils/short_coil.h"
 #include "coils/single_layer_coil.h"
 #include "coils/spaced_coil.h"
 #include "coils/straight_wire.h"
 #include "coils/toroids/toroid_cores.h"
 #include "coils/toroids/toroid_transformer.h"
 #include "coils/toroids/toroid_tuning.h"
+#include "coils/winding_inductance.h"
 #include "filters/filter_response.h"
 #include "filters/lc_filters.h"
 #include "filters/lc_notch.h"
@@ -150,6 +161,10 @@ void register_circuits() {
   call("circuits/risen_to", risen_to, 12.0, 0.03, 0.047);
   call("circuits/fallen_to", fallen_to, 12.0, 0.03, 0.047);
   call("circuits/time_constants_until", time_constants_until, 8.0, 12.0);
+  call("circuits/pi_section", pi_section, 2000.0, 50.0, 12.0);
+  call("circuits/loaded_resonator", loaded_resonator, 250.0, 50.0);
+  call("circuits/parts_for_range", parts_for_range, VariableCapacitor{10e-12, 365e-12},
+       TuningRange{0.52e6, 1.62e6});
 }
 
 void register_filters() {
@@ -223,6 +238,24 @@ void register_coils() {
   call("coils/from_inductance_and_capacitance", from_inductance_and_capacitance, 10.0, 100.0);
   call("coils/from_frequency_and_inductance", from_frequency_and_inductance, 7.1, 10.0);
   call("coils/from_frequency_and_capacitance", from_frequency_and_capacitance, 7.1, 100.0);
+  call("coils/current_sheet_inductance_h", current_sheet_inductance_h, 0.01, 0.02, 10.0);
+  call("coils/coaxial_circles_mutual_h", coaxial_circles_mutual_h, 0.01, 0.012, 0.001);
+  call("coils/facing_segments_mutual_h", facing_segments_mutual_h, 0.3, 0.3, 0.001);
+  const ShortCoil short_coil{0.007, 0.001};
+  call("coils/fewest_turns", fewest_turns, short_coil, 0.0015, 0.1e-6);
+  call("coils/stretched_pitch_m", stretched_pitch_m, short_coil, 6.0, 0.0015, 0.1e-6);
+  call("coils/printed_coil_near", printed_coil_near,
+       PrintedSpiral{SpiralShape::round, 0.006, 0.0008, 0.0008}, 0.25e-6);
+  // The longest search: all 100 layers.
+  call(
+      "coils/layered_coil_near",
+      [](Real inductance_h) {
+        return layered_coil_near(RectangularForm{0.005, 0.005}, {0.014, 0.001}, inductance_h);
+      },
+      1.0);
+  call("coils/resonant_line", resonant_line, 432e6, 3e-12, 112.4);
+  call("coils/coil_self_resonance", coil_self_resonance, 0.05, 0.1, 20.0);
+  call("coils/ferrite_transformer", ferrite_transformer, ferrite_cores()[5], 50.0, 120.0, 3.5e6);
 }
 
 void register_materials() {

@@ -23,6 +23,8 @@ TEST_F(CompanionWindows, StandAtTheirPlacesAlsoWhenTheyAreOpenAlready) {
       {"mnufiltronotchaf", "cmdchiamabobine", {12, 17}, "frmbobine", {533, 417}},
       {"mnufiltronotchbf", "cmdchiamabobine", {12, 17}, "frmbobine", {533, 417}},
       {"mnubobine", "cmdchiamaawg", {12, 12}, "frmawg", {273, 200}},
+      {"mnumicrobobine", "cmdchiamaawg", {12, 12}, "frmawg", {273, 200}},
+      {"mnuadattatorilc", "cmdchiamabobine", {12, 12}, "frmbobine", {273, 187}},
       {"mnumisureInglesi", "cmdaltreconversioni", {12, 12}, "frmaltreconversioni", {273, 187}},
       {"mnuyagi3", "cmdgamma", {23, 23}, "frmgammamatch", {533, 533}},
       {"mnuyagi5", "cmdgamma", {13, 13}, "frmgammamatch", {533, 533}},
@@ -45,6 +47,8 @@ TEST_F(CompanionWindows, StandAtTheirPlacesAlsoWhenTheyAreOpenAlready) {
 TEST_F(CompanionWindows, LeaveSomeCallersInTheirPlace) {
   for (const auto& [menu_entry, button] : {std::pair{"mnupassabanda2", "cmdchiamabobine"},
                                            {"mnupbk", "cmdchiamabobine"},
+                                           {"mnumulticircolare", "cmdchiamaawg"},
+                                           {"mnuautorisonanza1", "cmdchiamaawg"},
                                            {"mnumultilayer", "cmdchiamaawg"}}) {
     const Driven window = choose(menu_entry);
     const QPoint corner = window.window().pos();
@@ -53,8 +57,12 @@ TEST_F(CompanionWindows, LeaveSomeCallersInTheirPlace) {
   }
   EXPECT_TRUE(is_open("frmbobine"));
   EXPECT_EQ(driven("frmawg").window().pos(), QPoint(273, 200));
-  // The window of VHF coils would be moved, but not shown; that there is none is no matter.
+  // The window of VHF coils has been moved, but not shown.
   EXPECT_FALSE(is_open("frmmicrobobine"));
+  const Driven short_coils = choose("mnumicrobobine");
+  EXPECT_EQ(short_coils.window().pos(), QPoint(12, 12));
+  short_coils.click("cmdaprebobineHF");
+  EXPECT_EQ(short_coils.window().pos(), QPoint(12, 12));
   EXPECT_EQ(boxes(), Boxes{});
 }
 

@@ -8,6 +8,8 @@
 
 namespace eterlab::circuits {
 
+std::string kilohertz_text(Real frequency_hz) { return fixed(frequency_hz / 1e3, 2) + " kHz"; }
+
 ImpedanceResult::ImpedanceResult(ui::Parent parent, std::string_view name_end)
     : lblmodulo{parent, "lblmodulo" + std::string{name_end}},
       lblfase{parent, "lblfase" + std::string{name_end}},

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "common/complex.h"
@@ -14,6 +15,9 @@ inline constexpr std::string_view inductance_prompt = "INDUTTANZA in uH";
 inline constexpr std::string_view capacitance_prompt = "CAPACITA' in pF";
 inline constexpr std::string_view resistance_prompt = "RESISTENZA in OHM";
 inline constexpr ui::Range frequency_range{.lowest = 1e-9, .highest = 1e9};
+
+/// A frequency as the windows of resonant circuits tell it.
+std::string kilohertz_text(Real frequency_hz);
 
 /// @{
 /// What is typed in the usual unit, in that of the formulas.

@@ -1,3 +1,4 @@
+#include "coils/bobbin_drawing.h"
 #include "coils/multilayer_coil.h"
 #include "common/number_text.h"
 #include "ui/schematic.h"
@@ -78,24 +79,15 @@ class frmmultilayercoil final : public ui::Window {
   // The bobbin cut along its axis, with the winding's section on either side of it.
   void draw() {
     using Side = ui::Schematic::Side;
-    constexpr double left = 12;
-    constexpr double right = 28;
-    constexpr double axis = 14;
-    constexpr double inner = 6;   // from the axis
-    constexpr double outer = 11;  // from the axis
-    constexpr double flange = 12.5;
-    for (const double side : {-1.0, 1.0}) {
-      sketch.wire({{left, axis + side * inner}, {right, axis + side * inner}})
-          .wire({{left, axis + side * inner}, {left, axis + side * flange}})
-          .wire({{right, axis + side * inner}, {right, axis + side * flange}});
-      for (int turn = 0; turn < 10; ++turn) {
-        for (int layer = 0; layer < 3; ++layer) {
-          sketch.circle({left + 0.8 + turn * 1.6, axis + side * (inner + 0.9 + layer * 1.6)}, 0.65);
-        }
-      }
-    }
-    sketch.dashed({{left - 2, axis}, {right + 2, axis}})
-        .dashed({{left - 4, axis - outer}, {left, axis - outer}})
+    constexpr BobbinPlace bobbin{.left = 12, .right = 28, .axis = 14};
+    constexpr double left = bobbin.left;
+    constexpr double right = bobbin.right;
+    constexpr double axis = bobbin.axis;
+    constexpr double inner = bobbin.inner;
+    constexpr double outer = bobbin.outer;
+    constexpr double flange = bobbin.flange;
+    draw_bobbin(sketch, bobbin);
+    sketch.dashed({{left - 4, axis - outer}, {left, axis - outer}})
         .dashed({{left - 4, axis}, {left - 2, axis}})
         .dashed({{right, axis - outer}, {right + 3, axis - outer}})
         .dashed({{right, axis - inner}, {right + 3, axis - inner}})

@@ -152,6 +152,10 @@ void Calculator::require(bool holds, QWidget& focus, std::string_view text,
   }
 }
 
+void Calculator::advise(bool holds, QWidget& focus, std::string_view text) {
+  require(holds, focus, text, "MESSAGGIO DI AVVISO");
+}
+
 void Calculator::fill_in(std::initializer_list<std::string_view> texts) {
   const std::vector<Input*> inputs = shown_inputs();
   Q_ASSERT(texts.size() == inputs.size());

@@ -49,6 +49,9 @@ class Calculator : public Window {
   void require(bool holds, QWidget& focus, std::string_view text) const;
   static void require(bool holds, QWidget& focus, std::string_view text, std::string_view title);
 
+  /// As require(), with a message that does not call it an error.
+  static void advise(bool holds, QWidget& focus, std::string_view text);
+
   /// Lays out the window: what stands above, the hint how decimals are written (where there are
   /// boxes), then the buttons, others between CALCOLA and E S C I.
   void lay_out(const Item& contents, std::initializer_list<Button*> others = {},

@@ -19,15 +19,14 @@ std::string name_of_prompt(std::string_view box, const Input::Traits& traits) {
 }  // namespace
 
 Input::Input(Parent parent, std::string_view name, std::string_view prompt, const Traits& traits)
-    : TextBox{parent, name, {traits.tooltip}},
+    : TextBox{parent, name},
       prompt_{std::make_unique<Label>(parent, name_of_prompt(name, traits), prompt)},
-      tip_{traits.tooltip},
       range_{traits.range},
       negative_{traits.negative},
       tells_range_{traits.tells_range},
       is_optional_{traits.is_optional} {
   prompt_->set_prompt_of(*this);
-  tell_range();
+  set_tooltip(traits.tooltip);
   *this = traits.holds;
 }
 
@@ -68,11 +67,23 @@ void Input::ask(std::string_view prompt, Range range) {
   ask(prompt);
 }
 
-void Input::tell_range() {
-  if (tells_range_) {
-    const Range limits = range();
-    setToolTip(to_qt("da " + as_typed(limits.lowest) + " a " + as_typed(limits.highest) + tip_));
+void Input::ask_anew(std::string_view prompt, Range range) {
+  if (prompt_->content() != prompt) {
+    *this = "";
   }
+  ask(prompt, range);
+}
+
+void Input::set_tooltip(std::string_view tip) {
+  tip_ = tip;
+  tell_range();
+}
+
+void Input::tell_range() {
+  const Range limits = range();
+  const std::string told =
+      tells_range_ ? "da " + as_typed(limits.lowest) + " a " + as_typed(limits.highest) : "";
+  setToolTip(to_qt(told + tip_));
 }
 
 void Input::hide() {

@@ -58,6 +58,11 @@ class Input final : public TextBox {
   /// Asks for something else, also where the box was hidden.
   void ask(std::string_view prompt);
   void ask(std::string_view prompt, Range range);
+  /// The same for a box that what was typed for another prompt does not stay in; for the same one
+  /// it does.
+  void ask_anew(std::string_view prompt, Range range);
+  /// Another one than it was made with.
+  void set_tooltip(std::string_view tip);
   /// With its prompt.
   void hide();
   void show();

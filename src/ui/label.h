@@ -126,6 +126,11 @@ class Value final : public Label, public Blankable {
   }
   using Label::operator=;
   void blank() override { *this = letter_; }
+  /// Shows another letter, also when it is blank again.
+  void set_letter(std::string_view letter) {
+    letter_ = letter;
+    blank();
+  }
 
  private:
   std::string letter_;

@@ -53,6 +53,7 @@ TEST_F(PlotAxis, TicksStandAtRoundValues) {
        "10 k . . . . . . . . 100 k . . . . . . . . 1 M . . . . . . . . 10 M"},
       {{"", "F"}, {0, 1e-10}, 2, "0 50 p 100 p"},
       {{"", ""}, {0, 0.002}, 2, "0 0,001 0,002"},
+      {{.title = "", .unit = "dB", .step = 3}, {-10, 0}, 2, "-9 -6 -3 0"},
   };
   for (const auto& [axis, range, texts, expected] : table) {
     EXPECT_EQ(ticks(Ruler{axis, range}, texts), expected);

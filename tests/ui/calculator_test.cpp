@@ -33,7 +33,10 @@ class Asking final : public ui::Calculator {
     Option1.preset(0);
     table.at(0, 0) = "one";
     lay_out(ui::column(Option1, ui::form(cmbkind, txtfirst, txtsecond, txtfree), lblsum, table));
-    Option1.on_click([this](int index) { index == 0 ? txtsecond.show() : txtsecond.hide(); });
+    Option1.on_click([this](int index) {
+      index == 0 ? txtsecond.show() : txtsecond.hide();
+      txtfree.ask_anew(index == 0 ? "FREE" : "FREER", {0, index == 0 ? 5.0 : 50.0});
+    });
   }
 
  private:
@@ -119,6 +122,16 @@ TEST_F(Calculators, AnyChangeOfAnInputEmptiesTheResultsOnly) {
     window.type(control, change);
     EXPECT_EQ(results(), "|one|");
   }
+}
+
+TEST_F(Calculators, AskingForSomethingElseEmptiesTheBox) {
+  use_window("asking", "txtfirst txtsecond txtfree", "txtfree_prompt txtfree");
+  enter("1|2|3");
+  window.click("Option1_0");
+  EXPECT_EQ(results(), "FREE|3");
+  window.click("Option1_1");
+  EXPECT_EQ(results(), "FREER|");
+  expect_refusal("1||51", "txtfree", "VALORI AMMESSI: DA 0 A 50");
 }
 
 TEST_F(Calculators, MarkARowToTheEyeAndToTheEar) {

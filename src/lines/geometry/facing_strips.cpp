@@ -5,16 +5,11 @@
 
 #include "common/numerics.h"
 #include "common/physics.h"
+#include "lines/geometry/geometry_factor.h"
 
 namespace eterlab::lines {
 
 namespace {
-
-/// Geometry factor of a thin microstrip without a dielectric, by its width over its height.
-Real microstrip_factor(Real u) {
-  const Real f = 6 + (2 * pi - 6) * exp(-pow(30.666 / u, 0.7528));
-  return ln(f / u + hypot(1, 2 / u));
-}
 
 /// Effective permittivity of a thin microstrip.
 Real effective_permittivity(Real u, Real er) {
@@ -43,9 +38,9 @@ StripLine strip_line(const FacingStrips& strips) {
   const Real in_air = u + widening_in_air;
   const Real in_sheet = u + widening_in_air / 2 * (1 + 1 / cosh(sqrt(er - 1)));
   const Real permittivity = effective_permittivity(in_sheet, er);
-  const Real factor = microstrip_factor(in_sheet);
+  const Real factor = strip_over_ground_factor(in_sheet, 1);
   const Real impedance_ohm = free_space_impedance_ohm / pi * factor / sqrt(permittivity);
-  return {impedance_ohm, factor / (sqrt(permittivity) * microstrip_factor(in_air))};
+  return {impedance_ohm, factor / (sqrt(permittivity) * strip_over_ground_factor(in_air, 1))};
 }
 
 Real narrowest_strip(const FacingStrips& strips) {

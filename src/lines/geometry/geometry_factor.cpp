@@ -29,6 +29,12 @@ Real wire_over_ground_factor(Real diameter, Real height) {
   return wire_pair_factor(diameter, 2 * height);
 }
 
+Real strip_over_ground_factor(Real width, Real height) {
+  const Real u = width / height;
+  const Real f = 6 + (2 * pi - 6) * exp(-pow(30.666 / u, 0.7528));
+  return ln(f / u + hypot(1, 2 / u));
+}
+
 Real push_pull_factor(const PairOverGround& pair) {
   const auto& [diameter, spacing, height] = pair;
   const Real to_image = 2 * height;

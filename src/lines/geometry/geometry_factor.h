@@ -29,6 +29,10 @@ Real wire_pair_spacing(Real diameter, Real factor);
 /// below half of the diameter.
 Real wire_over_ground_factor(Real diameter, Real height);
 
+/// A thin strip over ground, of any width and height, within 0.01 %. Source: Hammerstad and Jensen,
+/// "Accurate models for microstrip computer-aided design", IEEE MTT-S 1980.
+Real strip_over_ground_factor(Real width, Real height);
+
 /// A pair of wires over ground, both at the same height of their centres.
 struct PairOverGround {
   Real diameter;  ///< of each wire

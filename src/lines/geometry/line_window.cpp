@@ -85,10 +85,6 @@ void LineWindow::check() {
   }
 }
 
-void LineWindow::advise(bool holds, QWidget& focus, std::string_view text) const {
-  require(holds, focus, text, "MESSAGGIO DI AVVISO");
-}
-
 LineResults::LineResults(ui::Parent parent)
     : lblcapacita{parent, "lblcapacita"},
       lblinduttanza{parent, "lblinduttanza"},

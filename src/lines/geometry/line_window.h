@@ -43,8 +43,6 @@ class LineWindow : public ui::Calculator {
 
   /// An optional number that is not above zero counts as not told.
   void check() override;
-  /// As require(), with a message that does not call it an error.
-  void advise(bool holds, QWidget& focus, std::string_view text) const;
 };
 
 /// Capacitance, inductance and velocity factor.

@@ -1,0 +1,50 @@
+#include "coils/self_resonance.h"
+
+#include "circuits/resonance.h"
+#include "coils/winding_inductance.h"
+
+namespace eterlab::coils {
+
+namespace {
+
+SelfResonance with_frequency(Real inductance_h, Real capacitance_f) {
+  return {inductance_h, capacitance_f,
+          circuits::tuned_circuit(inductance_h, capacitance_f).frequency_hz};
+}
+
+}  // namespace
+
+bool has_known_self_capacitance(Real diameter_m, Real length_m) {
+  constexpr double shortest_diameters = 0.1;
+  constexpr double longest_diameters = 50;
+  constexpr double noise = 1e-12;
+  const Real diameters = length_m / diameter_m;
+  return diameters >= shortest_diameters * (1 - noise) &&
+         diameters <= longest_diameters * (1 + noise);
+}
+
+SelfResonance coil_self_resonance(Real diameter_m, Real length_m, Real turns) {
+  const Real diameter_cm = 100 * diameter_m;
+  const Real length_cm = 100 * length_m;
+  const Real capacitance_pf =
+      0.1126 * length_cm + 0.08 * diameter_cm + 0.27 * diameter_cm * sqrt(diameter_cm / length_cm);
+  return with_frequency(current_sheet_inductance_h(diameter_m / 2, length_m, turns),
+                        capacitance_pf * 1e-12);
+}
+
+std::optional<SelfResonance> measured_self_resonance(const ResonanceMeasured& first,
+                                                     const ResonanceMeasured& second) {
+  constexpr double least_f = 0.001e-12;
+  const Real f1 = first.frequency_hz;
+  const Real f2 = second.frequency_hz;
+  const Real capacitance_f =
+      (second.capacitance_f * f2 * f2 - first.capacitance_f * f1 * f1) / ((f1 - f2) * (f1 + f2));
+  if (capacitance_f < least_f) {
+    return {};
+  }
+  const Real inductance_h =
+      circuits::tuned_by_inductance(f1, first.capacitance_f + capacitance_f).inductance_h;
+  return with_frequency(inductance_h, capacitance_f);
+}
+
+}  // namespace eterlab::coils
