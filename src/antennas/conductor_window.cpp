@@ -5,7 +5,7 @@
 
 namespace eterlab::antennas {
 
-std::string centimetres(Real length_m) { return "cm. " + fixed(100 * length_m, 1); }
+std::string cm_and_length(Real length_m) { return "cm. " + fixed(100 * length_m, 1); }
 
 ConductorWindow::ConductorWindow(std::string_view name, std::string_view title,
                                  const Diameter& diameter)

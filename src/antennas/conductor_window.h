@@ -11,8 +11,8 @@
 
 namespace eterlab::antennas {
 
-/// A length as a tape measures it.
-std::string centimetres(Real length_m);
+/// A length as a tape measures it, the unit first: "cm. 525,9".
+std::string cm_and_length(Real length_m);
 
 class ConductorWindow : public ui::Calculator {
  protected:

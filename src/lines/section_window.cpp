@@ -11,8 +11,6 @@ ui::Input section_frequency_input(ui::Parent parent) {
           {.range = section_frequency_range_mhz, .prompt_name = "Label1"}};
 }
 
-std::string centimetres(Real length_m) { return fixed(100 * length_m, 1) + " cm."; }
-
 std::string ohms(Real impedance_ohm) { return fixed(impedance_ohm, 1) + " Ohm"; }
 
 std::string tenths_of_mm(Real length_mm) { return fixed(length_mm, 1) + " mm"; }

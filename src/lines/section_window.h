@@ -5,6 +5,7 @@
 
 #include "common/arithmetic.h"
 #include "lines/geometry/line_window.h"
+#include "ui/lengths.h"
 #include "ui/ui.h"
 
 // What the windows of line sections and baluns have in common.
@@ -22,7 +23,7 @@ inline constexpr ui::Range balun_impedance_range_ohm{10, 600};
 ui::Input section_frequency_input(ui::Parent parent);
 
 // Results and values on drawings
-std::string centimetres(Real length_m);    ///< "348,4 cm."
+using ui::centimetres;
 std::string ohms(Real impedance_ohm);      ///< "74,8 Ohm"
 std::string tenths_of_mm(Real length_mm);  ///< "22,7 mm"
 

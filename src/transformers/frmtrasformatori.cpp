@@ -80,6 +80,7 @@ class frmtrasformatori final : public ui::Calculator {
     for (int column = 1; const char* longest : {"2 x 9.999", "0,000 mm", "00,000 A", "9.999 g"}) {
       table.reserve(column++, longest);
     }
+    lblnucleo.reserve("NUCLEO: SEZIONE LORDA 50,0 cmq, COLONNA 71 x 71 mm");
     std::vector<ui::TableRow> rows;
     for (int row = 0; row < txtvolt.size(); ++row) {
       txtampere[row].prompt().hide();  // both stand behind one prompt

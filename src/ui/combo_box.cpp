@@ -90,7 +90,9 @@ void ComboBox::take_completion() {
 }
 
 void ComboBox::keyPressEvent(QKeyEvent* event) {
-  if (is_completing()) {
+  if (event->modifiers().testFlag(Qt::AltModifier)) {
+    hide_completions();  // it opens the whole list
+  } else if (is_completing()) {
     switch (event->key()) {
       case Qt::Key_Down:
         return completion_list_->step(1);

@@ -118,7 +118,9 @@ void MenuBar::go_by_letter(QWidget& menu, QChar letter) {
   // By the keys that go there: to make an entry the active one would open its menu.
   const int key = &menu == this ? Qt::Key_Right : Qt::Key_Down;
   is_stepping_ = true;
-  for (qsizetype steps = (target - current + entries.size()) % entries.size(); steps > 0; --steps) {
+  const qsizetype count = entries.size();
+  for (qsizetype steps = current < 0 ? target + 1 : (target - current + count) % count; steps > 0;
+       --steps) {
     QKeyEvent step{QEvent::KeyPress, key, Qt::NoModifier};
     QApplication::sendEvent(&menu, &step);
   }

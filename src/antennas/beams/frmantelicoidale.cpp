@@ -4,6 +4,7 @@
 #include "antennas/beams/axial_helix.h"
 #include "antennas/wavelength.h"
 #include "common/number_text.h"
+#include "ui/lengths.h"
 #include "ui/measures.h"
 #include "ui/schematic.h"
 #include "ui/ui.h"
@@ -88,7 +89,7 @@ class frmantelicoidale final : public ui::Calculator {
     const AxialHelix helix = axial_helix(wavelength_m(frequency_mhz), whole_turns());
     const auto length = [frequency_mhz](Real length_m) {
       constexpr double first_in_mm_mhz = 1000;
-      return frequency_mhz < first_in_mm_mhz ? fixed(100 * length_m, 1) + " cm."
+      return frequency_mhz < first_in_mm_mhz ? ui::centimetres(length_m)
                                              : fixed(1000 * length_m, 1) + " mm";
     };
     lbldiametro = "DIAMETRO DELLE SPIRE = " + length(helix.diameter_m);

@@ -98,13 +98,13 @@ class frmantennamoxon final : public WireWindow {
 
   void compute() override {
     const MoxonRectangle moxon = moxon_rectangle(wire());
-    lbla = "A = " + centimetres(moxon.width_m);
-    lblb = "B = " + centimetres(moxon.radiator_end_m);
-    lblc = "C = " + centimetres(moxon.gap_m);
-    lbld = "D = " + centimetres(moxon.reflector_end_m);
-    lble = "E = " + centimetres(depth_m(moxon));
-    lblradiatore = "FILO DEL RADIATORE = " + centimetres(radiator_wire_m(moxon));
-    lblriflettore = "FILO DEL RIFLETTORE = " + centimetres(reflector_wire_m(moxon));
+    lbla = "A = " + cm_and_length(moxon.width_m);
+    lblb = "B = " + cm_and_length(moxon.radiator_end_m);
+    lblc = "C = " + cm_and_length(moxon.gap_m);
+    lbld = "D = " + cm_and_length(moxon.reflector_end_m);
+    lble = "E = " + cm_and_length(depth_m(moxon));
+    lblradiatore = "FILO DEL RADIATORE = " + cm_and_length(radiator_wire_m(moxon));
+    lblriflettore = "FILO DEL RIFLETTORE = " + cm_and_length(reflector_wire_m(moxon));
   }
 };
 

@@ -114,12 +114,14 @@ class frmhb9cv final : public ConductorWindow {
   void compute() override {
     const AntennaWire element = conductor();
     const Hb9cv antenna = hb9cv(element.wavelength_m, element.diameter_m);
-    lblriflettore = "RIFLETTORE = " + centimetres(antenna.reflector_m);
-    lbldirettore = "DIRETTORE = " + centimetres(antenna.director_m);
-    lblspaziatura = "SPAZIATURA = " + centimetres(antenna.spacing_m);
-    lblpresarif = "PRESA SUL RIFLETTORE = " + centimetres(antenna.reflector_tap_m) + " DAL CENTRO";
-    lblpresadir = "PRESA SUL DIRETTORE = " + centimetres(antenna.director_tap_m) + " DAL CENTRO";
-    lblaltezza = "DISTANZA TRA GLI ASSI DI ASTE ED ELEMENTI = " + centimetres(antenna.rod_height_m);
+    lblriflettore = "RIFLETTORE = " + cm_and_length(antenna.reflector_m);
+    lbldirettore = "DIRETTORE = " + cm_and_length(antenna.director_m);
+    lblspaziatura = "SPAZIATURA = " + cm_and_length(antenna.spacing_m);
+    lblpresarif =
+        "PRESA SUL RIFLETTORE = " + cm_and_length(antenna.reflector_tap_m) + " DAL CENTRO";
+    lblpresadir = "PRESA SUL DIRETTORE = " + cm_and_length(antenna.director_tap_m) + " DAL CENTRO";
+    lblaltezza =
+        "DISTANZA TRA GLI ASSI DI ASTE ED ELEMENTI = " + cm_and_length(antenna.rod_height_m);
     lblaste = "DIAMETRO DELLE ASTE = mm " + fixed(1000 * antenna.rod_diameter_m, 1);
     lblcompensatore = "COMPENSATORE = " + fixed(1e12 * antenna.capacitance_f, 0) + " pF";
   }

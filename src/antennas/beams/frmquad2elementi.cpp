@@ -89,16 +89,16 @@ class frmquad2elementi final : public WireWindow {
     const AntennaWire cut = wire();
     const TwoElementQuad quad = two_element_quad(cut);
     const auto loop = [](Real perimeter_m) {
-      return "PERIMETRO " + centimetres(perimeter_m) + "  LATO " + centimetres(perimeter_m / 4);
+      return "PERIMETRO " + cm_and_length(perimeter_m) + "  LATO " + cm_and_length(perimeter_m / 4);
     };
     lblradiatore = "RADIATORE : " + loop(quad.radiator_m);
     lblriflettore = "RIFLETTORE : " + loop(quad.reflector_m);
-    lblspaziatura = "SPAZIATURA = " + centimetres(quad.spacing_m);
-    lblbraccio = "BRACCI DELLE CROCIERE = " + centimetres(spreader_arm_m(quad.radiator_m)) + " E " +
-                 centimetres(spreader_arm_m(quad.reflector_m));
+    lblspaziatura = "SPAZIATURA = " + cm_and_length(quad.spacing_m);
+    lblbraccio = "BRACCI DELLE CROCIERE = " + cm_and_length(spreader_arm_m(quad.radiator_m)) +
+                 " E " + cm_and_length(spreader_arm_m(quad.reflector_m));
     lblimpedenza = "IMPEDENZA CIRCA " + fixed(quad.feed_ohm, 0) + " Ohm";
     lbladattatore = "ADATTATORE 1/4 D'ONDA IN CAVO 75 Ohm = " +
-                    centimetres(quarter_wave_cable_m(cut.wavelength_m));
+                    cm_and_length(quarter_wave_cable_m(cut.wavelength_m));
   }
 };
 

@@ -72,11 +72,11 @@ class frmloopquadrato final : public WireWindow {
   void compute() override {
     const AntennaWire cut = wire();
     const Real perimeter_m = quad_loop_perimeter_m(cut);
-    lblperimetro = "PERIMETRO = " + centimetres(perimeter_m);
-    lbllato = "LATO = " + centimetres(perimeter_m / 4);
-    lblbraccio = "BRACCIO DELLA CROCIERA = " + centimetres(spreader_arm_m(perimeter_m));
+    lblperimetro = "PERIMETRO = " + cm_and_length(perimeter_m);
+    lbllato = "LATO = " + cm_and_length(perimeter_m / 4);
+    lblbraccio = "BRACCIO DELLA CROCIERA = " + cm_and_length(spreader_arm_m(perimeter_m));
     lbladattatore = "ADATTATORE 1/4 D'ONDA IN CAVO 75 Ohm = " +
-                    centimetres(quarter_wave_cable_m(cut.wavelength_m));
+                    cm_and_length(quarter_wave_cable_m(cut.wavelength_m));
   }
 };
 

@@ -4,6 +4,7 @@
 #include "antennas/wavelength.h"
 #include "common/number_text.h"
 #include "common/rounding.h"
+#include "ui/lengths.h"
 
 namespace eterlab::antennas {
 
@@ -33,7 +34,7 @@ std::string WireLoopWindow::length_text(Real length_m) const {
   constexpr double first_in_centimetres_mhz = 30;
   const bool in_metres =
       txtfrequenza.value() < first_in_centimetres_mhz || length_m >= first_in_metres_m;
-  return in_metres ? fixed(length_m, 2) + " mt." : fixed(100 * length_m, 1) + " cm.";
+  return in_metres ? fixed(length_m, 2) + " mt." : ui::centimetres(length_m);
 }
 
 std::string impedance_text(Real resistance_ohm) {

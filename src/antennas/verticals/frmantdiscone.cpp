@@ -4,6 +4,7 @@
 #include "antennas/wavelength.h"
 #include "common/number_text.h"
 #include "common/rounding.h"
+#include "ui/lengths.h"
 #include "ui/measures.h"
 #include "ui/schematic.h"
 #include "ui/ui.h"
@@ -102,18 +103,17 @@ class frmantdiscone final : public ui::Calculator {
     require(reaches(widest_discone_top_wavelengths * longest_m, top_diameter_m), txtdiametro,
             "DIAMETRO SUPERIORE TROPPO GRANDE PER QUESTA FREQUENZA");
     const Discone antenna = discone(longest_m, top_diameter_m);
-    const auto cm = [](Real length_m) { return fixed(100 * length_m, 1) + " cm."; };
     const std::string gap = fixed(mm_in_metre * antenna.gap_m, 1) + " mm";
-    lblcono = "LATO DEL CONO = " + cm(antenna.slant_m);
-    lblbase = "DIAMETRO ALLA BASE DEL CONO = " + cm(antenna.base_m);
-    lblaltezza = "ALTEZZA DEL CONO = " + cm(antenna.cone_height_m);
-    lbldisco = "DIAMETRO DEL DISCO = " + cm(antenna.disc_diameter_m);
+    lblcono = "LATO DEL CONO = " + ui::centimetres(antenna.slant_m);
+    lblbase = "DIAMETRO ALLA BASE DEL CONO = " + ui::centimetres(antenna.base_m);
+    lblaltezza = "ALTEZZA DEL CONO = " + ui::centimetres(antenna.cone_height_m);
+    lbldisco = "DIAMETRO DEL DISCO = " + ui::centimetres(antenna.disc_diameter_m);
     lbldistanza = "DISTANZA TRA DISCO E CONO = " + gap;
     lblcampo = "UTILIZZABILE FINO A CIRCA " + fixed(discone_bandwidth * frequency_mhz, 0) + " MHz";
-    lblvalorecono = cm(antenna.slant_m);
-    lblvalorebase = cm(antenna.base_m);
-    lblvalorealtezza = cm(antenna.cone_height_m);
-    lblvaloredisco = cm(antenna.disc_diameter_m);
+    lblvalorecono = ui::centimetres(antenna.slant_m);
+    lblvalorebase = ui::centimetres(antenna.base_m);
+    lblvalorealtezza = ui::centimetres(antenna.cone_height_m);
+    lblvaloredisco = ui::centimetres(antenna.disc_diameter_m);
     lblvaloredistanza = gap;
     lblvalorediametro = plain(txtdiametro.value()) + " mm";
   }

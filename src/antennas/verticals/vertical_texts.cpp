@@ -4,8 +4,6 @@
 
 namespace eterlab::antennas {
 
-std::string centimetres(Real length_m) { return fixed(100 * length_m, 1) + " cm."; }
-
 std::string metres(Real length_m) { return plain(length_m) + " mt."; }
 
 std::string microhenries(Real inductance_uh) { return fixed(inductance_uh, 2) + " uH"; }

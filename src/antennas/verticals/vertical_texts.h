@@ -5,6 +5,7 @@
 
 #include "coils/spaced_coil.h"
 #include "common/arithmetic.h"
+#include "ui/lengths.h"
 
 // What the windows of vertical antennas say alike.
 
@@ -12,7 +13,7 @@ namespace eterlab::antennas {
 
 inline constexpr std::string_view notice = "MESSAGGIO DI AVVISO";
 
-std::string centimetres(Real length_m);
+using ui::centimetres;
 /// As typed.
 std::string metres(Real length_m);
 std::string microhenries(Real inductance_uh);

@@ -4,8 +4,8 @@
 #include "common/physics.h"
 #include "common/rounding.h"
 #include "lines/baluns/air_balun.h"
-#include "lines/geometry/section_drawing.h"
 #include "lines/section_window.h"
+#include "ui/measures.h"
 #include "ui/schematic.h"
 
 namespace eterlab::lines {

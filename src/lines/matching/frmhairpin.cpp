@@ -2,10 +2,10 @@
 
 #include "common/number_text.h"
 #include "common/rounding.h"
-#include "lines/geometry/section_drawing.h"
 #include "lines/line_section.h"
 #include "lines/matching/hairpin.h"
 #include "lines/section_window.h"
+#include "ui/measures.h"
 #include "ui/schematic.h"
 
 namespace eterlab::lines {

@@ -3,10 +3,10 @@
 #include <string_view>
 
 #include "common/number_text.h"
-#include "lines/geometry/section_drawing.h"
 #include "lines/line_section.h"
 #include "lines/matching/tube_transformer.h"
 #include "lines/section_window.h"
+#include "ui/measures.h"
 #include "ui/schematic.h"
 
 namespace eterlab::lines {
