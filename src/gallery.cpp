@@ -80,7 +80,7 @@ int render(const QDir& folder, bool with_examples, QTextStream& out) {
   ui::Desktop desktop;
   std::vector<Picture> pictures;
   for (const std::string& name : ui::registry::names()) {
-    pictures.push_back(picture_of(*desktop.load(name), with_examples));
+    pictures.push_back(picture_of(desktop.load(name), with_examples));
   }
   const auto save = [&](const QString& name, const QPixmap& pixels) {
     const QString file = folder.filePath(name + ".png");

@@ -52,47 +52,36 @@ Desktop& Desktop::instance() {
   return *the_desktop;
 }
 
-bool Desktop::show(std::string_view name, Showing showing) {
-  Window* window = load(name);
-  if (window == nullptr) {
-    message_box(nullptr, Icon::exclamation, "MESSAGGIO DI AVVISO",
-                "FINESTRA NON ANCORA DISPONIBILE");
-    return false;
+void Desktop::show(std::string_view name, Showing showing) {
+  Window& window = load(name);
+  if (!window.isVisible()) {
+    window.setWindowModality(showing == Showing::modal ? Qt::ApplicationModal : Qt::NonModal);
   }
-  if (!window->isVisible()) {
-    window->setWindowModality(showing == Showing::modal ? Qt::ApplicationModal : Qt::NonModal);
-  }
-  window->bring_forward();
-  return true;
+  window.bring_forward();
 }
 
-bool Desktop::show_in_reach(std::string_view name) {
+void Desktop::show_in_reach(std::string_view name) {
   const QWidget* modal = QApplication::activeModalWidget();
   Window* open = find(name);
   if (open != nullptr && modal != nullptr && !open->isModal()) {
     open->hide();  // it is shown again in front of the one that blocks it
   }
-  return show(name, modal == nullptr ? Showing::modeless : Showing::modal);
+  show(name, modal == nullptr ? Showing::modeless : Showing::modal);
 }
 
-Window* Desktop::load(std::string_view name) {
+Window& Desktop::load(std::string_view name) {
   if (Window* open = find(name); open != nullptr) {
-    return open;
+    return *open;
   }
-  std::unique_ptr<Window> created = registry::create(name);
-  if (created == nullptr) {
-    return nullptr;
-  }
-  Window* window = created.release();
-  windows_.emplace(name, window);
-  window->load();
+  Q_ASSERT(registry::contains(name));
+  Window& window = *registry::create(name).release();
+  windows_.emplace(name, &window);
+  window.load();
   return window;
 }
 
 void Desktop::place(std::string_view name, TwipsPoint corner) {
-  if (Window* window = load(name); window != nullptr) {
-    window->move(corner.pixels());
-  }
+  load(name).move(corner.pixels());
 }
 
 Window* Desktop::find(std::string_view name) const {

@@ -33,13 +33,12 @@ class Desktop {
   /// The one desktop; it must have been made before any window.
   static Desktop& instance();
 
-  /// Shows a window, or brings it forward where it is open already. A name that no window has yet
-  /// is answered with a notice box. Returns whether the window is there.
-  bool show(std::string_view name, Showing showing = Showing::modeless);
+  /// Shows a window, or brings it forward where it is open already.
+  void show(std::string_view name, Showing showing = Showing::modeless);
   /// Shows a window that helps with others, which is modal where a modal one would block it.
-  bool show_in_reach(std::string_view name);
-  /// Makes sure that a window exists, without showing it; null when no window has that name.
-  Window* load(std::string_view name);
+  void show_in_reach(std::string_view name);
+  /// Makes sure that a window of the registry exists, without showing it.
+  Window& load(std::string_view name);
   /// Loads a window if needed and moves it.
   void place(std::string_view name, TwipsPoint corner);
   /// The window of that name if it is loaded, else null.

@@ -69,9 +69,8 @@ TEST_F(Finding, KnowsEveryWindowByItsTitle) {
   std::vector<std::string_view> known;
   for (const shell::WindowWords& words : shell::window_words()) {
     known.push_back(words.window);
-    if (const ui::Window* window = desktop().load(words.window); window != nullptr) {
-      EXPECT_EQ(ui::from_qt(window->windowTitle().simplified()), words.title) << words.window;
-    }
+    const ui::Window& window = desktop().load(words.window);
+    EXPECT_EQ(ui::from_qt(window.windowTitle().simplified()), words.title) << words.window;
     start_anew();
   }
   for (const shell::MenuEntry& entry : shell::menu_catalogue()) {

@@ -13,15 +13,13 @@ namespace {
 class frmprova final : public ui::Window {
   ui::TextBox txtprova{this, "txtprova"};
   ui::Result lblprova{this, "lblprova"};
-  ui::Button cmdmanca{this, "cmdmanca", "MANCA"};
   ui::ComputeButton cmdcalcola{this, "cmdcalcola"};
   ui::ExitButton cmdesci{this, "cmdesci"};
 
  public:
   frmprova() : Window{"frmprova", "PROVA"} {
-    arrange(ui::column(txtprova, lblprova, ui::buttons(cmdmanca, cmdcalcola, cmdesci)));
+    arrange(ui::column(txtprova, lblprova, ui::buttons(cmdcalcola, cmdesci)));
     txtprova.on_change([this] { lblprova = std::to_string((1 / txtprova.number()).value()); });
-    cmdmanca.on_click([this] { open_companion("frmnessuna", {180, 300}, {4100, 2800}); });
     cmdcalcola.on_click([this] { txtprova = "0"; });
   }
   void load() override { lblprova = "caricata"; }
@@ -63,13 +61,6 @@ TEST_F(Desktop, LoadsWithoutShowing) {
   ASSERT_NE(desktop().find("frmprova"), nullptr);
   EXPECT_FALSE(is_open("frmprova"));
   EXPECT_EQ(open().window().pos(), QPoint(273, 200));
-}
-
-TEST_F(Desktop, AMissingCompanionIsNoticed) {
-  const Driven window = open();
-  window.click("cmdmanca");
-  EXPECT_EQ(window.window().pos(), QPoint(12, 20));
-  EXPECT_EQ(boxes(), Boxes{"MESSAGGIO DI AVVISO: FINESTRA NON ANCORA DISPONIBILE"});
 }
 
 TEST_F(Desktop, EnterPressesAFocusedButton) {
