@@ -2,7 +2,6 @@
 
 #include <QStringList>
 #include <algorithm>
-#include <optional>
 #include <utility>
 
 #include "shell/window_words.h"
@@ -85,22 +84,29 @@ QString stem(const QString& word) {
   return is_long ? word.chopped(1) : word;
 }
 
-/// How far a word is from being the first that an entry is known by; none where it is not there.
-std::optional<int> distance(const QString& word, const Indexed& indexed) {
+constexpr int not_there = 100;
+
+/// How far a word is from being the first that an entry is known by.
+int distance(const QString& word, const Indexed& indexed) {
   const auto begins = [&word](const QString& other) { return other.startsWith(word); };
   const auto holds = [&word](const QString& other) { return other.contains(word); };
+  // One or two letters begin many words; by themselves they are a unit or a number.
+  constexpr qsizetype shortest_beginning = 3;
   constexpr qsizetype shortest_inside = 4;
-  if (std::ranges::any_of(indexed.caption, begins)) {
-    return 0;
+  const int of_beginning = word.size() < shortest_beginning ? 2 : 0;
+  int least = not_there;
+  const auto consider = [&least](bool is_there, int distance) {
+    least = is_there ? std::min(least, distance) : least;
+  };
+  consider(indexed.caption.contains(word), 0);
+  consider(indexed.others.contains(word), 1);
+  consider(std::ranges::any_of(indexed.caption, begins), of_beginning);
+  consider(std::ranges::any_of(indexed.others, begins), 1 + of_beginning);
+  if (word.size() >= shortest_inside) {
+    consider(std::ranges::any_of(indexed.caption, holds), 4);
+    consider(std::ranges::any_of(indexed.others, holds), 4);
   }
-  if (std::ranges::any_of(indexed.others, begins)) {
-    return 1;
-  }
-  if (word.size() >= shortest_inside &&
-      (std::ranges::any_of(indexed.caption, holds) || std::ranges::any_of(indexed.others, holds))) {
-    return 2;
-  }
-  return std::nullopt;
+  return least;
 }
 
 }  // namespace
@@ -113,9 +119,9 @@ std::vector<const MenuEntry*> find_entries(std::string_view text) {
   for (const Indexed& indexed : index) {
     int sum = 0;
     const bool has_all = std::ranges::all_of(words, [&](const QString& word) {
-      const auto away = distance(word, indexed);
-      sum += away.value_or(0);
-      return away.has_value();
+      const int away = distance(word, indexed);
+      sum += away;
+      return away < not_there;
     });
     if (has_all) {
       found.emplace_back(sum, indexed.entry);

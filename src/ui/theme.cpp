@@ -74,6 +74,11 @@ class Style final : public QProxyStyle {
       } else if (frame->state.testFlag(State_HasFocus)) {
         draw_edge(*painter, frame->rect, frame->palette.color(QPalette::Highlight));
       }
+    } else if (element == PE_PanelButtonCommand) {
+      QProxyStyle::drawPrimitive(element, option, painter, widget);
+      if (option->state.testFlag(State_HasFocus)) {
+        draw_edge(*painter, option->rect, option->palette.color(QPalette::Highlight));
+      }
     } else if (element == PE_FrameFocusRect) {
       draw_edge(*painter, option->rect, option->palette.color(QPalette::Highlight));
     } else if (element == PE_FrameGroupBox && box != nullptr) {

@@ -54,6 +54,7 @@ TEST(Finder, ListsTheBestFirstAndAllForNothing) {
   EXPECT_EQ(windows_found(" - ").size(), 206U);
   EXPECT_EQ(windows_found("hairpin").front(), "frmhairpin");
   EXPECT_EQ(windows_found("risonanza").front(), "frmrisonanza");
+  EXPECT_EQ(windows_found("bobina 2 m").front(), "frmmicrobobine");
   EXPECT_EQ(windows_found("xyzzy").size(), 0U);
   // Words in any order, and more of them never find more.
   EXPECT_EQ(windows_found("lambda balun"), windows_found("Balun LAMBDA"));
