@@ -78,6 +78,10 @@ void MenuBar::add_entry(std::string_view name, std::string_view caption, std::st
 }
 
 bool MenuBar::eventFilter(QObject* watched, QEvent* event) {
+  const bool is_menu = watched == this || qobject_cast<QMenu*>(watched) != nullptr;
+  if (!is_menu) {
+    return QMenuBar::eventFilter(watched, event);  // of the window, which the toolkit watches too
+  }
   if (event->type() == QEvent::Show || event->type() == QEvent::Hide) {
     typed_.clear();
   } else if (event->type() == QEvent::KeyPress && !is_stepping_) {
