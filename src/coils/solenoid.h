@@ -10,11 +10,11 @@ namespace eterlab::coils {
 /// Circular and Square Coils", Proc. IEEE 70, 1982. current_sheet_inductance_h() is closer still.
 /// @{
 
-/// Inductance, within 0.1 % for any shape:
+/// Inductance with R. Weaver's coefficients, within 0.1 % for any shape:
 /// mu0 n^2 r (ln(1 + pi r / l) + 1 / (2.3004 + 1.6 l / r + 0.4409 (l / r)^2)).
 Real solenoid_inductance_h(Real radius_m, Real length_m, Real turns);
 
-/// The same with the constants rounded to 2.3 and 0.44, within 0.1 % as well.
+/// The same with the printed coefficients, 2.3 and 0.44; within 0.1 % as well.
 Real handbook_solenoid_inductance_h(Real radius_m, Real length_m, Real turns);
 
 /// The capacitance that its turns have among themselves, one end grounded. Within 8 % of his

@@ -22,7 +22,7 @@ struct AirWinding {
   [[nodiscard]] Real length_m() const;
   /// Of each wire.
   [[nodiscard]] Real wire_length_m() const;
-  /// Of each wire. Source: coils/solenoid.h, with the rounded constants.
+  /// Of each wire. Source: coils/solenoid.h, with the printed coefficients.
   [[nodiscard]] Real inductance_h() const;
   /// At which it resonates with its own capacitance, one end earthed; its length from 0.1 diameters
   /// on. The real one lies 1.2 to 1.6 times higher. Source: coils/solenoid.h.
