@@ -69,6 +69,7 @@
 #include "lines/matching/matched_load.h"
 #include "lines/standing_wave.h"
 #include "materials/copper_wire.h"
+#include "materials/metals.h"
 #include "materials/skin_effect.h"
 #include "materials/strand.h"
 #include "power/rectifier.h"
@@ -293,7 +294,7 @@ void register_antennas() {
   call("antennas/l_match", l_match, Complex{12, -85}, 50.0);
   call("antennas/three_element_yagi", three_element_yagi, 145.0);
   call("antennas/five_element_yagi", five_element_yagi, 145.0);
-  const MagneticLoop loop{LoopShape::circle, 3.14, 22, copper_tube_ohm_m};
+  const MagneticLoop loop{LoopShape::circle, 3.14, 22, materials::copper.resistivity_ohm_m()};
   call("antennas/tuned_loop", tuned_loop, loop, 14.2e6);
   const EhAntenna eh{14.2e6, 0.05, 0.157, 0.002, 200};
   call("antennas/eh_body", eh_body, eh);
