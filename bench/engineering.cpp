@@ -15,13 +15,13 @@
 #include "antennas/dipoles/off_centre_dipole.h"
 #include "antennas/dipoles/trap_dipole.h"
 #include "antennas/dipoles/wire_antennas.h"
+#include "antennas/l_network.h"
+#include "antennas/loops/magnetic_loop.h"
+#include "antennas/loops/wire_loops.h"
+#include "antennas/radiation_resistance.h"
 #include "antennas/straight_wire.h"
 #include "antennas/verticals/base_loading.h"
 #include "antennas/verticals/capacity_hat.h"
-#include "antennas/loops/magnetic_loop.h"
-#include "antennas/l_network.h"
-#include "antennas/loops/wire_loops.h"
-#include "antennas/radiation_resistance.h"
 #include "antennas/verticals/loaded_vertical.h"
 #include "antennas/verticals/microvert.h"
 #include "antennas/verticals/whip.h"
@@ -31,6 +31,7 @@
 #include "circuits/handbook_resonance.h"
 #include "circuits/lc_matching.h"
 #include "circuits/ohms_law.h"
+#include "circuits/pi_network.h"
 #include "circuits/proportioned_tank.h"
 #include "circuits/quality_factor.h"
 #include "circuits/time_constant.h"
@@ -68,6 +69,7 @@
 #include "lines/matching/matched_load.h"
 #include "lines/standing_wave.h"
 #include "materials/copper_wire.h"
+#include "materials/metals.h"
 #include "materials/skin_effect.h"
 #include "materials/strand.h"
 #include "power/rectifier.h"
@@ -86,12 +88,12 @@
 #include "signals/power_level.h"
 #include "signals/radio_horizon.h"
 #include "signals/waveform.h"
-#include "transistors/emitter_bias.h"
-#include "transistors/stage_matching.h"
 #include "transformers/laminated_core.h"
 #include "transformers/mains_transformer.h"
 #include "transformers/smoothing_choke.h"
 #include "transformers/universal_autotransformer.h"
+#include "transistors/emitter_bias.h"
+#include "transistors/stage_matching.h"
 #include "units/locator.h"
 #include "units/mils.h"
 #include "units/temperature.h"
@@ -162,6 +164,7 @@ void register_circuits() {
   call("circuits/fallen_to", fallen_to, 12.0, 0.03, 0.047);
   call("circuits/time_constants_until", time_constants_until, 8.0, 12.0);
   call("circuits/pi_section", pi_section, 2000.0, 50.0, 12.0);
+  call("circuits/pi_network", pi_network, PiTerminations{33.0, 50, 7.03e6}, 3.0);
   call("circuits/loaded_resonator", loaded_resonator, 250.0, 50.0);
   call("circuits/parts_for_range", parts_for_range, VariableCapacitor{10e-12, 365e-12},
        TuningRange{0.52e6, 1.62e6});
@@ -291,7 +294,7 @@ void register_antennas() {
   call("antennas/l_match", l_match, Complex{12, -85}, 50.0);
   call("antennas/three_element_yagi", three_element_yagi, 145.0);
   call("antennas/five_element_yagi", five_element_yagi, 145.0);
-  const MagneticLoop loop{LoopShape::circle, 3.14, 22, copper_tube_ohm_m};
+  const MagneticLoop loop{LoopShape::circle, 3.14, 22, materials::copper.resistivity_ohm_m()};
   call("antennas/tuned_loop", tuned_loop, loop, 14.2e6);
   const EhAntenna eh{14.2e6, 0.05, 0.157, 0.002, 200};
   call("antennas/eh_body", eh_body, eh);
@@ -382,11 +385,9 @@ void register_power() {
 
 void register_transistors() {
   using namespace transistors;
-  const PiTerminations ends{33.0, 50, 7.03e6};
   call("transistors/common_emitter_stage", common_emitter_stage,
        CommonEmitterGoal{12, 0.001, 200, 50});
   call("transistors/tapped_capacitor", tapped_capacitor, 1806.0, 50.0, 10.0, 14e6);
-  call("transistors/pi_network", pi_network, ends, 3.0);
 }
 
 void register_transformers() {
@@ -404,7 +405,7 @@ void register_valves() {
   using namespace valves;
   const OutputStage stage{OutputCircuit::single, 5200, 5.7, 0.048, 8, 70};
   call("valves/output_transformer", output_transformer, stage, transformers::LaminatedCore{5.6});
-  call("valves/pi_network", pi_network, PiNetworkTask{2846, 50, 7.05e6, 12});
+  call("valves/pi_network", valves::pi_network, PiNetworkTask{2846, 50, 7.05e6, 12});
 }
 
 }  // namespace

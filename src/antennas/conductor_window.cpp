@@ -1,7 +1,8 @@
 #include "antennas/conductor_window.h"
 
+#include "antennas/suitable_diameter.h"
+#include "antennas/wavelength.h"
 #include "common/number_text.h"
-#include "common/physics.h"
 
 namespace eterlab::antennas {
 
@@ -23,15 +24,15 @@ ConductorWindow::ConductorWindow(std::string_view name, std::string_view title,
       suitable_{diameter.suitable} {}
 
 AntennaWire ConductorWindow::conductor() {
-  const Real wavelength_m = speed_of_light_m_per_s / (1e6 * txtfrequenza.value());
+  const Real wavelength_m = antennas::wavelength_m(txtfrequenza.value());
   const Real diameter_mm = txtdiametro.value();
-  require(suitable_.admits(diameter_mm, wavelength_m), txtdiametro, suitable_.refusal(wavelength_m),
-          "MESSAGGIO DI AVVISO");
+  advise(is_suitable(diameter_mm, suitable_, wavelength_m), txtdiametro,
+         diameter_refusal(suitable_, wavelength_m));
   return {wavelength_m, diameter_mm / 1000};
 }
 
 WireWindow::WireWindow(std::string_view name, std::string_view title,
-                       const SuitableDiameter& suitable)
+                       const ThicknessRange& suitable)
     : ConductorWindow{name,
                       title,
                       {.prompt = "DIAMETRO DEL FILO in mm",

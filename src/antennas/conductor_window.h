@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "antennas/antenna_wire.h"
-#include "antennas/suitable_diameter.h"
+#include "antennas/thickness_range.h"
 #include "ui/ui.h"
 
 // Windows of antennas that are cut for a frequency and the diameter of their conductor.
@@ -20,7 +20,7 @@ class ConductorWindow : public ui::Calculator {
   struct Diameter {
     std::string_view prompt;
     std::string_view tooltip;
-    SuitableDiameter suitable;
+    ThicknessRange suitable;
   };
   ConductorWindow(std::string_view name, std::string_view title, const Diameter& diameter);
 
@@ -31,13 +31,13 @@ class ConductorWindow : public ui::Calculator {
   ui::Input txtdiametro;
 
  private:
-  SuitableDiameter suitable_;
+  ThicknessRange suitable_;
 };
 
 /// One whose conductor is a wire, bare or insulated.
 class WireWindow : public ConductorWindow {
  protected:
-  WireWindow(std::string_view name, std::string_view title, const SuitableDiameter& suitable);
+  WireWindow(std::string_view name, std::string_view title, const ThicknessRange& suitable);
 
   /// Of a suitable diameter; any other is refused.
   [[nodiscard]] AntennaWire wire();

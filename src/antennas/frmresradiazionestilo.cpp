@@ -83,8 +83,8 @@ class frmresradiazionestilo final : public ui::Calculator {
     require(reaches(height, shortest_wavelengths) && reaches(longest_wavelengths, height),
             txtaltezza, "ALTEZZA TRA 0.005 E 0.625 LAMBDA");
     const std::optional<Real> base_ohm = vertical_base_resistance_ohm(height);
-    require(base_ohm.has_value(), txtaltezza,
-            "VICINO A MEZZA ONDA LA RESISTENZA ALLA BASE NON E' DEFINITA", "MESSAGGIO DI AVVISO");
+    advise(base_ohm.has_value(), txtaltezza,
+           "VICINO A MEZZA ONDA LA RESISTENZA ALLA BASE NON E' DEFINITA");
     const Real ground_ohm = txtterra.value();
     const Real total_ohm = *base_ohm + ground_ohm;
     lbllambda = "ALTEZZA = " + sig(height, 4) + " LAMBDA";

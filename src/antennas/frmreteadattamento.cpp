@@ -138,8 +138,7 @@ class frmreteadattamento final : public ui::Calculator {
   void compute() override {
     const Complex antenna_ohm{txtr.value(), txtx.value()};
     const Real line_ohm = txtz0.value();
-    require(!is_matched(antenna_ohm, line_ohm), txtr, "L'ANTENNA E' GIA' ADATTATA",
-            "MESSAGGIO DI AVVISO");
+    advise(!is_matched(antenna_ohm, line_ohm), txtr, "L'ANTENNA E' GIA' ADATTATA");
     constexpr double largest_reflection = 0.99;
     const bool is_large =
         reaches(abs(lines::reflection_coefficient(antenna_ohm, line_ohm)), largest_reflection);

@@ -6,6 +6,7 @@
 #include <complex>
 #include <utility>
 
+#include "antennas/wavelength.h"
 #include "common/numerics.h"
 #include "common/physics.h"
 #include "common/rounding.h"
@@ -246,7 +247,7 @@ Real longest_segment_m(const Conductor& conductor) {
 
 }  // namespace
 
-Real Conductor::wavelength_m() const { return speed_of_light_m_per_s / (frequency_mhz * 1e6); }
+Real Conductor::wavelength_m() const { return antennas::wavelength_m(frequency_mhz); }
 
 WirePorts::WirePorts(std::vector<Complex> impedances_ohm, std::vector<int> counts)
     : impedances_ohm_{std::move(impedances_ohm)}, counts_{std::move(counts)} {}

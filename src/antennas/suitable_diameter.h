@@ -2,20 +2,15 @@
 
 #include <string>
 
+#include "antennas/thickness_range.h"
 #include "common/arithmetic.h"
 
 namespace eterlab::antennas {
 
-/// The diameters of a conductor, as shares of the wavelength, for which the dimensions of an
-/// antenna hold.
-struct SuitableDiameter {
-  double least_wavelengths;
-  double greatest_wavelengths;
-
-  /// A limit as the refusal tells it is admitted.
-  [[nodiscard]] bool admits(Real diameter_mm, Real wavelength_m) const;
-  /// What the user is told, the limits rounded inwards.
-  [[nodiscard]] std::string refusal(Real wavelength_m) const;
-};
+/// Whether a conductor is neither too thin nor too thick at a wavelength; a limit as the refusal
+/// tells it is suitable.
+bool is_suitable(Real diameter_mm, const ThicknessRange& range, Real wavelength_m);
+/// What the user is told, the limits rounded inwards.
+std::string diameter_refusal(const ThicknessRange& range, Real wavelength_m);
 
 }  // namespace eterlab::antennas

@@ -8,13 +8,13 @@
 
 #include "coils/winding_inductance.h"
 #include "common/physics.h"
+#include "materials/metals.h"
 
 namespace eterlab::coils {
 
 namespace {
 
-constexpr double copper_conductivity_s_per_m = 58e6;  // IEC 60028
-constexpr double copper_radius_ratio = 0.46;          // to the diameter with enamel
+constexpr double copper_radius_ratio = 0.46;  // to the diameter with enamel
 
 /// Turns of a round coil by their layers, from 0.
 class RoundTurns {
@@ -113,8 +113,8 @@ class GrowingCoil {
     const Real copper_radius_m = copper_radius_ratio * wire_m_;
     LayeredCoil coil = coil_;
     coil.layers = (coil_.turns + per_layer_ - 1) / per_layer_;
-    coil.resistance_ohm = coil_.wire_length_m /
-                          (copper_conductivity_s_per_m * pi * copper_radius_m * copper_radius_m);
+    coil.resistance_ohm = materials::copper.resistivity_ohm_m() * coil_.wire_length_m /
+                          (pi * copper_radius_m * copper_radius_m);
     return coil;
   }
 

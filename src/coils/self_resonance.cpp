@@ -1,6 +1,7 @@
 #include "coils/self_resonance.h"
 
 #include "circuits/resonance.h"
+#include "coils/solenoid.h"
 #include "coils/winding_inductance.h"
 
 namespace eterlab::coils {
@@ -24,12 +25,8 @@ bool has_known_self_capacitance(Real diameter_m, Real length_m) {
 }
 
 SelfResonance coil_self_resonance(Real diameter_m, Real length_m, Real turns) {
-  const Real diameter_cm = 100 * diameter_m;
-  const Real length_cm = 100 * length_m;
-  const Real capacitance_pf =
-      0.1126 * length_cm + 0.08 * diameter_cm + 0.27 * diameter_cm * sqrt(diameter_cm / length_cm);
   return with_frequency(current_sheet_inductance_h(diameter_m / 2, length_m, turns),
-                        capacitance_pf * 1e-12);
+                        solenoid_self_capacitance_f(diameter_m, length_m));
 }
 
 std::optional<SelfResonance> measured_self_resonance(const ResonanceMeasured& first,

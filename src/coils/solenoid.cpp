@@ -4,10 +4,23 @@
 
 namespace eterlab::coils {
 
+namespace {
+
+// Wheeler's shape factor with the constants for flat coils and for long ones.
+Real shape_factor(Real slenderness, double of_flat, double of_long) {
+  return log1p(pi / slenderness) + 1 / (of_flat + (1.6 + of_long * slenderness) * slenderness);
+}
+
+}  // namespace
+
 Real solenoid_inductance_h(Real radius_m, Real length_m, Real turns) {
-  const Real slenderness = length_m / radius_m;
   return vacuum_permeability_h_per_m * turns * turns * radius_m *
-         (log1p(pi / slenderness) + 1 / (2.3 + (1.6 + 0.44 * slenderness) * slenderness));
+         shape_factor(length_m / radius_m, 2.3004, 0.4409);
+}
+
+Real handbook_solenoid_inductance_h(Real radius_m, Real length_m, Real turns) {
+  return vacuum_permeability_h_per_m * turns * turns * radius_m *
+         shape_factor(length_m / radius_m, 2.3, 0.44);
 }
 
 Real solenoid_self_capacitance_f(Real diameter_m, Real length_m) {

@@ -1,5 +1,6 @@
 #include "coils/spaced_coil.h"
 
+#include "coils/solenoid.h"
 #include "common/numerics.h"
 #include "common/physics.h"
 
@@ -16,9 +17,7 @@ Real wheeler_sheet_inductance_uh(Real turns, Real diameter_mm, Real pitch_mm) {
   if (turns == 0) {
     return 0;
   }
-  const Real k = turns * pitch_mm / diameter_mm;
-  return half_permeability_uh_per_mm * diameter_mm * turns * turns *
-         (log1p(pi / (2 * k)) + 1 / (2.3004 + 3.2 * k + 1.7636 * k * k));
+  return 1e6 * solenoid_inductance_h(diameter_mm / 2000, turns * pitch_mm / 1000, turns);
 }
 
 Real rosa_correction_uh(Real diameter_mm, int turns) {

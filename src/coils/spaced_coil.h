@@ -16,9 +16,8 @@ struct SpacedCoil {
   [[nodiscard]] Real wire_diameter_mm() const { return 0.6 * pitch_mm; }  ///< of the bare wire
 };
 
-/// Inductance of an ideal winding of any number of turns, whole or not: a sheet of current. 0 of no
-/// turns. Source: H. A. Wheeler, "Inductance formulas for circular and square coils", Proc. IEEE
-/// 70, 1982; within 0.1 % for every length.
+/// Inductance of an ideal winding of any number of turns, whole or not: solenoid_inductance_h(), 0
+/// of no turns.
 Real wheeler_sheet_inductance_uh(Real turns, Real diameter_mm, Real pitch_mm);
 
 /// What each turn of a SpacedCoil has less than the sheet of current, the current on the surface of

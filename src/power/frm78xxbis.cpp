@@ -279,9 +279,8 @@ class frm78xxbis final : public ui::Calculator {
   }
 
   void show_dissipation(Real dissipation_w) {
-    require(dissipation_w <= highest_dissipation_w, txtvin,
-            "POTENZA ECCESSIVA PER UN SOLO INTEGRATO: ABBASSARE LA TENSIONE DI INGRESSO",
-            "MESSAGGIO DI AVVISO");
+    advise(dissipation_w <= highest_dissipation_w, txtvin,
+           "POTENZA ECCESSIVA PER UN SOLO INTEGRATO: ABBASSARE LA TENSIONE DI INGRESSO");
     const std::optional<Real> sink = heat_sink_k_per_w(dissipation_w);
     lblpotenza = "POTENZA SULL'INTEGRATO = " + fixed(dissipation_w, 1) + " W   " +
                  (sink ? "DISSIPATORE DA " + fixed(*sink, 1) + " GRADI/W O MENO"

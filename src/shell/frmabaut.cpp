@@ -11,7 +11,7 @@ namespace eterlab::shell {
 
 namespace {
 
-constexpr std::array<std::string_view, 5> paragraphs{
+constexpr std::array<std::string_view, 6> paragraphs{
     "ETERLAB è un prontuario di calcolo per radioamatori e appassionati di elettronica: bobine, "
     "antenne, linee, filtri, alimentatori. Si sceglie un calcolo dal menù, si scrivono due o tre "
     "numeri e si legge il risultato.",
@@ -19,11 +19,14 @@ constexpr std::array<std::string_view, 5> paragraphs{
     "risultati sono scritti come si usa nel proprio paese, in Italia con la virgola.",
     "I risultati sono un punto di partenza per costruire e misurare: tolleranze, montaggio e "
     "ambiente spostano sempre qualcosa.",
-    "I menù sono i capitoli del prontuario. Un calcolo si trova con il mouse, oppure con Alt, le "
-    "frecce e le prime lettere della voce cercata.",
+    "I menù sono i capitoli del prontuario. Un calcolo si trova con il mouse, con Alt, le "
+    "frecce e le prime lettere della voce, oppure con Ctrl+F e le parole che si ricordano.",
     "Un risultato si copia selezionandolo con il mouse e premendo Ctrl+C, oppure con il tasto "
-    "destro e la voce Copia. Le finestre con il pulsante STAMPA SCHEDA si stampano così come sono "
-    "sulla stampante predefinita."};
+    "destro, che copia anche il solo numero, scritto come lo vogliono le caselle. Le finestre con "
+    "il pulsante STAMPA SCHEDA si stampano così come sono sulla stampante predefinita.",
+    "I tasti: F10 apre i menù della finestra principale. In ogni finestra Ctrl+F o F3 cerca un "
+    "calcolo, F6 passa al risultato seguente, Ctrl+P stampa la finestra, Ctrl+Maiusc+C ne copia "
+    "tutti i dati e i risultati."};
 
 // What a new user needs, on one page, and the licence behind it.
 class frmabaut final : public ui::Window {

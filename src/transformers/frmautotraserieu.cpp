@@ -104,15 +104,13 @@ class frmautotraserieu final : public ui::Calculator {
     const bool is_near = abs(load.radio_v - radio_v) <= 0.1 * radio_v + noise_v;
     const std::string too_far = "LA TENSIONE PIU' VICINA E' " + fixed(load.radio_v, 1) +
                                 " V: OLTRE IL 10 % DA QUELLA DELLA RADIO";
-    constexpr std::string_view notice = "MESSAGGIO DI AVVISO";
     if (nearest->mains == nearest->radio) {
-      require(is_near, txtradio, too_far, notice);
-      require(false, txtradio, "NON SERVE L'AUTOTRASFORMATORE: COLLEGARE LA RADIO ALLA RETE",
-              notice);
+      advise(is_near, txtradio, too_far);
+      advise(false, txtradio, "NON SERVE L'AUTOTRASFORMATORE: COLLEGARE LA RADIO ALLA RETE");
     }
     tell(*nearest, mains_v, load);
     if (!is_near) {
-      refuse(txtradio, too_far, notice);
+      refuse(txtradio, too_far, "MESSAGGIO DI AVVISO");
     }
   }
 

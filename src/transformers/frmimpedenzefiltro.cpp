@@ -1,6 +1,7 @@
 #include <optional>
 
 #include "common/number_text.h"
+#include "transformers/core_window.h"
 #include "transformers/smoothing_choke.h"
 #include "transformers/winding_text.h"
 #include "transformers/wire_table.h"
@@ -12,7 +13,7 @@ namespace eterlab::transformers {
 namespace {
 
 // The choke that smooths the current of a power supply.
-class frmimpedenzefiltro final : public ui::Calculator {
+class frmimpedenzefiltro final : public CoreWindow {
   ui::Input txtinduttanza{this,
                           "txtinduttanza",
                           "INDUTTANZA in H",
@@ -29,10 +30,6 @@ class frmimpedenzefiltro final : public ui::Calculator {
                    .range = ui::Range{0, 500},
                    .is_optional = true,
                    .prompt_name = "Label3"}};
-  ui::Input txtsezione{this,
-                       "txtsezione",
-                       "SEZIONE DEL NUCLEO in cmq (FACOLTATIVA)",
-                       {.range = ui::Range{1, 50}, .is_optional = true, .prompt_name = "Label4"}};
   ui::Result lblnucleo{this, "lblnucleo"};
   ui::Result lblspire{this, "lblspire"};
   ui::Result lblfilo{this, "lblfilo"};
@@ -50,7 +47,8 @@ class frmimpedenzefiltro final : public ui::Calculator {
                                        wire_table};
 
  public:
-  frmimpedenzefiltro() : Calculator{"frmimpedenzefiltro", "CALCOLO DELLE IMPEDENZE DI FILTRO"} {
+  frmimpedenzefiltro()
+      : CoreWindow{"frmimpedenzefiltro", "CALCOLO DELLE IMPEDENZE DI FILTRO", "Label4"} {
     name_hint("Label6");
     draw();
     lay_out(ui::column(ui::row(ui::column(ui::form(txtinduttanza, txtma, txtvr, txtsezione),
@@ -132,23 +130,13 @@ class frmimpedenzefiltro final : public ui::Calculator {
         .label(lbldisn, {beside + 1, middle}, Side::right);
   }
 
-  void check() override {
-    check_presence();
-    for (ui::Input* input : shown_inputs()) {
-      if (input != &txtsezione || txtsezione.value() != 0) {  // empty or 0, it is to be found
-        check_range(*input);
-      }
-    }
-  }
-
   void compute() override {
     const ChokeTask task{txtinduttanza.value(), txtma.value() / 1000, txtvr.value()};
     const std::optional<LaminatedCore> smallest =
         smallest_core([&](const LaminatedCore& core) { return smoothing_choke(task, core).fits; });
     require(smallest.has_value(), txtinduttanza,
             "NUCLEO OLTRE 50 cmq: RIDURRE L'INDUTTANZA O LA CORRENTE");
-    const LaminatedCore core =
-        txtsezione.value() == 0 ? *smallest : LaminatedCore{txtsezione.value()};
+    const LaminatedCore core = is_section_typed() ? LaminatedCore{txtsezione.value()} : *smallest;
     const SmoothingChoke choke = smoothing_choke(task, core);
     require(choke.fits, txtsezione,
             "NUCLEO TROPPO PICCOLO: SERVONO ALMENO " + typed_section(*smallest) + " cmq");

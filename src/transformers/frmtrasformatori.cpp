@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "common/number_text.h"
+#include "transformers/core_window.h"
 #include "transformers/mains_transformer.h"
 #include "transformers/winding_text.h"
 #include "transformers/wire_table.h"
@@ -18,20 +19,12 @@ constexpr std::string_view plain_first = "SECONDARIO 1";
 constexpr std::string_view tapped_first = "SECONDARIO 1 (V PER RAMO, A IN CONTINUA)";
 
 // The mains transformer of a valve set: core, turns, wires and copper.
-class frmtrasformatori final : public ui::Calculator {
+class frmtrasformatori final : public CoreWindow {
   ui::Input txtprimario{this,
                         "txtprimario",
                         "TENSIONE DI RETE in V (50 Hz)",
                         {.holds = "230", .range = ui::Range{100, 500}, .prompt_name = "Label1"}};
   ui::List cmblamierini{this, "cmblamierini", "LAMIERINI"};
-  ui::Input txtsezione{
-      this,
-      "txtsezione",
-      "SEZIONE DEL NUCLEO in cmq (FACOLTATIVA)",
-      {.tooltip = "larghezza della colonna per spessore del pacco: vuota = calcolata",
-       .range = ui::Range{1, 50},
-       .is_optional = true,
-       .prompt_name = "Label3"}};
   ui::Frame Frame1{this, "Frame1", "SECONDARIO 1"};
   ui::OptionArray Option1{
       Frame1, "Option1", {"SEMPLICE", "A PRESA CENTRALE PER RADDRIZZATRICE BIPLACCA"}};
@@ -69,7 +62,8 @@ class frmtrasformatori final : public ui::Calculator {
 
  public:
   frmtrasformatori()
-      : Calculator{"frmtrasformatori", "CALCOLO DEL TRASFORMATORE DI ALIMENTAZIONE"} {
+      : CoreWindow{"frmtrasformatori", "CALCOLO DEL TRASFORMATORE DI ALIMENTAZIONE", "Label3",
+                   "larghezza della colonna per spessore del pacco: vuota = calcolata"} {
     name_hint("Label15");
     cmblamierini.offer(laminations());
     cmblamierini.choose("AL SILICIO (1,2 T)");
@@ -148,11 +142,8 @@ class frmtrasformatori final : public ui::Calculator {
     return row == 0 || txtvolt[row].value() != 0 || txtampere[row].value() != 0;
   }
 
-  [[nodiscard]] std::vector<ui::Input*> used_inputs() const {
-    std::vector<ui::Input*> inputs = shown_inputs();
-    if (txtsezione.value() == 0) {
-      std::erase(inputs, &txtsezione);
-    }
+  [[nodiscard]] std::vector<ui::Input*> used_inputs() const override {
+    std::vector<ui::Input*> inputs = CoreWindow::used_inputs();
     for (int row = 0; row < txtvolt.size(); ++row) {
       if (!is_used(row)) {
         std::erase(inputs, &txtvolt[row]);
@@ -160,16 +151,6 @@ class frmtrasformatori final : public ui::Calculator {
       }
     }
     return inputs;
-  }
-
-  void check() override {
-    const std::vector<ui::Input*> inputs = used_inputs();
-    for (ui::Input* input : inputs) {
-      check_presence(*input);
-    }
-    for (ui::Input* input : inputs) {
-      check_range(*input);
-    }
   }
 
   [[nodiscard]] MainsTransformerTask task() const {

@@ -106,10 +106,10 @@ class frmminifinale_antenna final : public MatchingWindow {
     const Real power_w = txtpotenza.value();
     const Real q = txtq.value();
     const Real load_ohm = collector_load_ohm(supply_v, saturation_v, power_w);
-    const PiTerminations ends{load_ohm, txtza.value(), txtfrequenza.value() * 1e6};
+    const circuits::PiTerminations ends{load_ohm, txtza.value(), txtfrequenza.value() * 1e6};
     require_q(other_q_squared(ends.higher_ohm(), ends.lower_ohm(), q) >= least_other_q_squared,
               least_q(ends.higher_ohm(), ends.lower_ohm()), txtq, txtpotenza);
-    const PiNetwork exact = pi_network(ends, q);
+    const circuits::PiNetwork exact = pi_network(ends, q);
     const StandardPiNetwork standard = with_standard_values(ends, exact);
     lblc1 = eng(exact.input_f, "F");
     lbll1 = eng(exact.inductance_h, "H");

@@ -91,44 +91,8 @@ TappedCapacitor with_standard_values(const TappedCapacitor& exact, Real base_ohm
           .load_ohm = 1 / seen.real()};
 }
 
-Real PiTerminations::higher_ohm() const { return std::max(load_ohm, antenna_ohm); }
-Real PiTerminations::lower_ohm() const { return std::min(load_ohm, antenna_ohm); }
-
-namespace {
-
-/// Between the two halves of a pi network.
-Real inner_resistance_ohm(const PiTerminations& ends, Real q) {
-  return ends.higher_ohm() / (1 + q * q);
-}
-
-}  // namespace
-
-PiNetwork pi_network(const PiTerminations& ends, Real q) {
-  const Real omega = angular(ends.frequency_hz);
-  const Real other_q = sqrt(other_q_squared(ends.higher_ohm(), ends.lower_ohm(), q));
-  const bool steps_down = ends.load_ohm >= ends.antenna_ohm;
-  const Real input_q = steps_down ? q : other_q;
-  const Real output_q = steps_down ? other_q : q;
-  return {.input_f = input_q / (omega * ends.load_ohm),
-          .inductance_h = inner_resistance_ohm(ends, q) * (input_q + output_q) / omega,
-          .output_f = output_q / (omega * ends.antenna_ohm)};
-}
-
-Real pi_coil_current_a(const PiTerminations& ends, Real q, Real power_w) {
-  return sqrt(power_w / inner_resistance_ohm(ends, q));
-}
-
-Real second_harmonic_attenuation_db(const PiTerminations& ends, const PiNetwork& network) {
-  const auto antenna_voltage_of_current = [&](double harmonic) {
-    const Real omega = angular(ends.frequency_hz) * harmonic;
-    const Complex input = reactance(omega * network.input_f);
-    const Complex output{1 / ends.antenna_ohm, omega * network.output_f};
-    return 1 / abs(input + output + input * output * reactance(omega * network.inductance_h));
-  };
-  return 20 * log10(antenna_voltage_of_current(1) / antenna_voltage_of_current(2));
-}
-
-StandardPiNetwork with_standard_values(const PiTerminations& ends, const PiNetwork& exact) {
+StandardPiNetwork with_standard_values(const circuits::PiTerminations& ends,
+                                       const circuits::PiNetwork& exact) {
   const Real omega = angular(ends.frequency_hz);
   // What a capacitor across a resistance leaves of it in series.
   const auto in_series = [omega](Real resistance_ohm, Real capacitance_f) {
@@ -136,14 +100,14 @@ StandardPiNetwork with_standard_values(const PiTerminations& ends, const PiNetwo
     return resistance_ohm / (1 + q * q);
   };
   const auto standing_wave_ratio = [&](Real input_f, Real output_f) {
-    const Real input_ohm = in_series(ends.load_ohm, input_f);
-    const Real output_ohm = in_series(ends.antenna_ohm, output_f);
+    const Real input_ohm = in_series(ends.input_ohm, input_f);
+    const Real output_ohm = in_series(ends.output_ohm, output_f);
     return std::max(input_ohm / output_ohm, output_ohm / input_ohm);
   };
   const auto [input_f, output_f] =
       best_standard_pair(exact.input_f, exact.output_f, standing_wave_ratio);
-  const Real inductance_h = in_series(ends.load_ohm, input_f) * ends.load_ohm * input_f +
-                            in_series(ends.antenna_ohm, output_f) * ends.antenna_ohm * output_f;
+  const Real inductance_h = in_series(ends.input_ohm, input_f) * ends.input_ohm * input_f +
+                            in_series(ends.output_ohm, output_f) * ends.output_ohm * output_f;
   return {{input_f, inductance_h, output_f}, standing_wave_ratio(input_f, output_f)};
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "circuits/pi_network.h"
 #include "common/arithmetic.h"
 #include "common/complex.h"
 
@@ -54,43 +55,18 @@ TappedCapacitor with_standard_values(const TappedCapacitor& exact, Real base_ohm
 
 /// @}
 
-/// @name Pi network
-/// From a collector to an antenna, the Q at the side of the greater resistance. Source: ARRL
-/// Handbook, "Pi networks"; E. Wingfield, QST 1983.
+/// @name Pi network that can be bought
+/// From a collector to an antenna.
 /// @{
-
-/// What a pi network stands between.
-struct PiTerminations {
-  Real load_ohm;      ///< that the collector is to see
-  Real antenna_ohm;   ///< a resistance
-  Real frequency_hz;  ///< of operation
-
-  [[nodiscard]] Real higher_ohm() const;  ///< the greater of both resistances
-  [[nodiscard]] Real lower_ohm() const;   ///< the smaller one
-};
-
-/// The parts of a pi network.
-struct PiNetwork {
-  Real input_f;       ///< C1, across the collector
-  Real inductance_h;  ///< L1, in the line
-  Real output_f;      ///< C2, across the antenna
-};
-
-/// Wants a square of the other Q above zero.
-PiNetwork pi_network(const PiTerminations& ends, Real q);
-/// The current through the coil of a network of that q, rms.
-Real pi_coil_current_a(const PiTerminations& ends, Real q, Real power_w);
-/// How much less of the second harmonic than of the fundamental reaches the antenna, in dB, from a
-/// collector that is a source of current. Negative where the network resonates near the harmonic.
-Real second_harmonic_attenuation_db(const PiTerminations& ends, const PiNetwork& network);
 
 /// A network of capacitors that can be bought, its coil retuned.
 struct StandardPiNetwork {
-  PiNetwork parts;           ///< with C1 and C2 of E12
-  Real standing_wave_ratio;  ///< that is left
+  circuits::PiNetwork parts;  ///< with C1 and C2 of E12
+  Real standing_wave_ratio;   ///< that is left
 };
 /// The pair of E12 capacitors, each next to the exact one, with the lowest standing-wave ratio.
-StandardPiNetwork with_standard_values(const PiTerminations& ends, const PiNetwork& exact);
+StandardPiNetwork with_standard_values(const circuits::PiTerminations& ends,
+                                       const circuits::PiNetwork& exact);
 
 /// @}
 

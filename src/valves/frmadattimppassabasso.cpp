@@ -134,13 +134,13 @@ class frmadattimppassabasso final : public ui::Calculator {
               "Q TROPPO BASSO: USARE ALMENO " + fixed(least, 0));
       require(false, txtra, "RAPPORTO TRA LE IMPEDENZE TROPPO GRANDE PER UNA SOLA RETE");
     }
-    const PiNetwork network = pi_network(task);
-    const Real mounted_f = network.anode_capacitance_f - pico * txtcv.value();
+    const circuits::PiNetwork network = pi_network(task);
+    const Real mounted_f = network.input_f - pico * txtcv.value();
     require(mounted_f > 0, txtq, "LA CAPACITA' DELLA VALVOLA SUPERA C1: AUMENTARE IL Q");
     lbldisra = plain(task.anode_ohm) + " Ohm";
     lbldisc1 = eng(mounted_f, "F");
     lbldisl = eng(network.inductance_h, "H");
-    lbldisc2 = eng(network.antenna_capacitance_f, "F");
+    lbldisc2 = eng(network.output_f, "F");
     lbldisz = plain(task.antenna_ohm) + " Ohm";
     lblc1 = "C1 = " + lbldisc1.content();
     lbll = "L = " + lbldisl.content();

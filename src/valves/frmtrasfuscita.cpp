@@ -2,6 +2,7 @@
 #include <string>
 
 #include "common/number_text.h"
+#include "transformers/core_window.h"
 #include "transformers/winding_text.h"
 #include "transformers/wire_table.h"
 #include "ui/schematic.h"
@@ -19,7 +20,7 @@ using Side = ui::Schematic::Side;
 constexpr ui::Transformer transformer{.place = {16.5, 14}, .core = ui::Transformer::Core::iron};
 
 // The output transformer of a valve set.
-class frmtrasfuscita final : public ui::Calculator {
+class frmtrasfuscita final : public transformers::CoreWindow {
   ui::Frame Frame1{this, "Frame1", "STADIO FINALE"};
   ui::OptionArray Option1{Frame1, "Option1", {"UNA VALVOLA IN CLASSE A", "PUSH-PULL"}};
   ui::List cmbvalvola{this, "cmbvalvola", "VALVOLA"};
@@ -46,10 +47,6 @@ class frmtrasfuscita final : public ui::Calculator {
                   .holds = "70",
                   .range = ui::Range{20, 300},
                   .prompt_name = "Label4"}};
-  ui::Input txtsezione{this,
-                       "txtsezione",
-                       "SEZIONE DEL NUCLEO in cmq (FACOLTATIVA)",
-                       {.range = ui::Range{1, 50}, .is_optional = true, .prompt_name = "Label5"}};
   ui::Result lblnucleo{this, "lblnucleo"};
   ui::Result lblinduttanza{this, "lblinduttanza"};
   ui::Result lbltraferro{this, "lbltraferro"};
@@ -75,7 +72,7 @@ class frmtrasfuscita final : public ui::Calculator {
 
  public:
   frmtrasfuscita()
-      : Calculator{"frmtrasfuscita", "CALCOLO DEL TRASFORMATORE DI USCITA PER VALVOLE"} {
+      : CoreWindow{"frmtrasfuscita", "CALCOLO DEL TRASFORMATORE DI USCITA PER VALVOLE", "Label5"} {
     name_hint("Label12");
     cmbvalvola.offer(output_valves());
     cmbvalvola.choose(-1);
@@ -200,15 +197,6 @@ class frmtrasfuscita final : public ui::Calculator {
     drawing.triode(valve).wire({input, valve.grid}).terminal(input);
   }
 
-  void check() override {
-    check_presence();
-    for (ui::Input* input : shown_inputs()) {
-      if (input != &txtsezione || txtsezione.value() != 0) {  // empty or 0, it is to be found
-        check_range(*input);
-      }
-    }
-  }
-
   void compute() override {
     const bool is_single = circuit() == OutputCircuit::single;
     const OutputStage stage{circuit(),       txtra.value(),
@@ -243,11 +231,11 @@ class frmtrasfuscita final : public ui::Calculator {
       return transformers::smallest_core(
           [&stage, loss](const LaminatedCore& core) { return copper_loss(stage, core) <= loss; });
     };
-    const bool is_typed = txtsezione.value() != 0;
-    const std::optional<LaminatedCore> least = smallest(is_typed ? greatest_loss : usual_loss);
+    const std::optional<LaminatedCore> least =
+        smallest(is_section_typed() ? greatest_loss : usual_loss);
     require(least.has_value(), txtwatt,
             "NUCLEO OLTRE 50 cmq: RIDURRE LA POTENZA O ALZARE LA FREQUENZA");
-    if (!is_typed) {
+    if (!is_section_typed()) {
       return *least;
     }
     const LaminatedCore typed{txtsezione.value()};

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "circuits/pi_network.h"
 #include "common/arithmetic.h"
 
 namespace eterlab::valves {
 
-/// What a pi network has to match. All above zero.
+/// What the pi network between a valve and its antenna has to match. All above zero.
 struct PiNetworkTask {
   Real anode_ohm;       ///< load that the valve is to see
   Real antenna_ohm;     ///< impedance of the antenna
@@ -12,21 +13,13 @@ struct PiNetworkTask {
   Real quality_factor;  ///< loaded, of the anode's end: its resistance over the reactance of C1
 };
 
-/// A low-pass of two capacitors to ground and a coil between them.
-struct PiNetwork {
-  Real anode_capacitance_f;    ///< C1, that of the valve included
-  Real inductance_h;           ///< L
-  Real antenna_capacitance_f;  ///< C2
-};
-
 /// Least quality factor, a whole number, with which a pi network of two capacitors can match.
 Real least_quality_factor(Real anode_ohm, Real antenna_ohm);
 /// Whether a quality factor is enough for the ratio of impedances.
 bool can_match(const PiNetworkTask& task);
 
-/// The network without losses, if it can match. Source: The ARRL Handbook, pi-network tank
-/// circuits; G. Grammer, QST 1957.
-PiNetwork pi_network(const PiNetworkTask& task);
+/// The network, if it can match; its input is the anode.
+circuits::PiNetwork pi_network(const PiNetworkTask& task);
 
 /// How much more the second harmonic of the anode current is held back than the fundamental.
 Real second_harmonic_attenuation_db(const PiNetworkTask& task);

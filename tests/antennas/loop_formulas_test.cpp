@@ -13,6 +13,7 @@
 #include "common/complex.h"
 #include "common/numerics.h"
 #include "common/physics.h"
+#include "materials/metals.h"
 
 // Fits and formulas of loops and very short dipoles against fields and circuits.
 
@@ -67,8 +68,9 @@ TEST(MagneticLoop, RadiatesAndStoresAsTheFieldOfItsCurrent) {
           stored += aligned / std::hypot(distance, radius);
         }
       }
-      const TunedLoop loop = tuned_loop({shape, 1, 2000 * radius, copper_tube_ohm_m},
-                                        wavelengths * speed_of_light_m_per_s);
+      const TunedLoop loop =
+          tuned_loop({shape, 1, 2000 * radius, materials::copper.resistivity_ohm_m()},
+                     wavelengths * speed_of_light_m_per_s);
       const double radiation_ohm =
           free_space_impedance_ohm * k / (4 * pi) * radiated / squared(pieces);
       const double inductance_h = vacuum_permeability_h_per_m / (4 * pi) * stored / squared(pieces);
@@ -133,7 +135,10 @@ TEST(Solenoid, InductanceAndCapacitance) {
     const Real sheet_h =
         vacuum_permeability_h_per_m * 8 / (3 * squared(length)) *
         (((2 * k * k - 1) * elliptic_e(k) + (1 - k * k) * elliptic_k(k)) / (k * k * k) - 1);
-    EXPECT_NEAR((coils::solenoid_inductance_h(1, length, 1) / sheet_h).value(), 1, 0.006) << length;
+    for (const auto inductance_h :
+         {coils::solenoid_inductance_h, coils::handbook_solenoid_inductance_h}) {
+      EXPECT_NEAR((inductance_h(1, length, 1) / sheet_h).value(), 1, 0.001) << length;
+    }
   }
   const std::pair<double, double> table[] = {{0.1, 0.96}, {0.3, 0.60}, {1, 0.46},
                                              {3, 0.61},   {10, 1.32},  {50, 5.8}};
@@ -234,7 +239,8 @@ TEST(EhStar, TapShowsTheCable) {
     const Real omega = 2 * pi * antenna.frequency_hz;
     const Real tap = star.tap_wire_m / (pi * antenna.diameter_m);
     const auto coil_h = [&](Real turns) {
-      return coils::solenoid_inductance_h(antenna.diameter_m / 2, turns * antenna.pitch_m, turns);
+      return coils::handbook_solenoid_inductance_h(antenna.diameter_m / 2, turns * antenna.pitch_m,
+                                                   turns);
     };
     const Real below_h = coil_h(tap);
     const Real mutual_h = (coil_h(body.turns) - below_h - coil_h(body.turns - tap)) / 2;

@@ -107,10 +107,10 @@ TEST(TappedCapacitor, ShowsItsLoadAndMovesAllPower) {
 
 TEST(PiNetwork, ShowsItsLoadFromBothSides) {
   for (const double load_ohm : {33.0625, 50.0, 120.4, 700.0}) {
-    const PiTerminations ends{load_ohm, 50, 7.03e6};
+    const circuits::PiTerminations ends{load_ohm, 50, 7.03e6};
     const double q = 4;
-    const PiNetwork pi_parts = pi_network(ends, q);
-    const auto solve = [&](const PiNetwork& parts, double harmonic) {
+    const circuits::PiNetwork pi_parts = pi_network(ends, q);
+    const auto solve = [&](const circuits::PiNetwork& parts, double harmonic) {
       return Network{2, 7.03e6 * harmonic}
           .capacitor(1, 0, parts.input_f)
           .inductor(1, 2, parts.inductance_h)
@@ -130,7 +130,7 @@ TEST(PiNetwork, ShowsItsLoadFromBothSides) {
     const double best = swr(solve(standard.parts, 1)[1], load_ohm);
     EXPECT_NEAR(standard.standing_wave_ratio.value(), best, 1e-7);
     for (const double detuned : {0.99, 1.01}) {
-      PiNetwork other = standard.parts;
+      circuits::PiNetwork other = standard.parts;
       other.inductance_h *= detuned;
       EXPECT_GT(swr(solve(other, 1)[1], load_ohm), best);
     }

@@ -104,12 +104,11 @@ struct Ladder {
 };
 
 Ladder ladder(const PiNetworkTask& task, double times) {
-  const PiNetwork network = pi_network(task);
+  const circuits::PiNetwork network = pi_network(task);
   const Real rad_per_s = times * 2 * pi * task.frequency_hz;
-  const Complex coil_current{1 / task.antenna_ohm, rad_per_s * network.antenna_capacitance_f};
+  const Complex coil_current{1 / task.antenna_ohm, rad_per_s * network.output_f};
   const Complex voltage = 1 + coil_current * Complex{0, rad_per_s * network.inductance_h};
-  return {voltage, coil_current + voltage * Complex{0, rad_per_s * network.anode_capacitance_f},
-          coil_current};
+  return {voltage, coil_current + voltage * Complex{0, rad_per_s * network.input_f}, coil_current};
 }
 
 TEST(PiNetworks, MatchAndHoldBackAsTheLadderTells) {

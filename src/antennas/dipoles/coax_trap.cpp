@@ -1,5 +1,7 @@
 #include "antennas/dipoles/coax_trap.h"
 
+#include "circuits/resonance.h"
+#include "coils/solenoid.h"
 #include "common/numerics.h"
 #include "common/physics.h"
 
@@ -12,14 +14,11 @@ CoaxTrap winding(const TrapCable& cable, Real form_mm, Real turns) {
   const Real pitch_m = cable.diameter_mm / 1000;
   const Real diameter_m = form_mm / 1000 + pitch_m;
   const Real length_m = turns * pitch_m;
-  const Real slenderness = length_m / diameter_m;
   const Real cable_m = turns * hypot(pi * diameter_m, pitch_m);
   return {.turns = turns,
           .cable_m = cable_m,
           .winding_m = length_m,
-          .inductance_h = vacuum_permeability_h_per_m / 2 * diameter_m * turns * turns *
-                          (log1p(pi / 2 / slenderness) +
-                           1 / (2.3004 + 3.2 * slenderness + 1.7636 * slenderness * slenderness)),
+          .inductance_h = coils::solenoid_inductance_h(diameter_m / 2, length_m, turns),
           .capacitance_f = cable_m * cable.capacitance_pf_per_m * 1e-12};
 }
 
@@ -36,7 +35,7 @@ std::span<const TrapCable> trap_cables() {
 
 Real coax_trap_hz(const TrapCable& cable, Real form_mm, Real turns) {
   const CoaxTrap trap = winding(cable, form_mm, turns);
-  return 1 / (2 * pi * sqrt(trap.inductance_h * trap.capacitance_f));
+  return circuits::tuned_circuit(trap.inductance_h, trap.capacitance_f).frequency_hz;
 }
 
 CoaxTrap coax_trap(const TrapCable& cable, Real form_mm, Real frequency_mhz, TrapOutput output) {

@@ -37,9 +37,8 @@ struct CoaxTrap {
 /// The inner conductor of the start joined to the shield of the end: both conductors wind around
 /// the same flux, in series. Between the shield of the start and the inner conductor of the end
 /// they are a coil of 4 L beside C / 4, to the joint one of L beside C. Sources: R. Sommer, QST,
-/// December 1984; D. Buxton, QST, August 1994; L by H. A. Wheeler, Proc. IEEE 70, 1982, with R.
-/// Weaver's coefficients, 0.1 % from the current sheet. Within 1 % of a network of rings with all
-/// mutual inductances in frequency.
+/// December 1984; D. Buxton, QST, August 1994; L by
+/// coils/solenoid.h. Within 1 % of a network of rings with all mutual inductances in frequency.
 /// @{
 
 /// Where a winding of so many turns resonates, the form from 3 diameters of the cable up.

@@ -38,10 +38,6 @@ void DipoleWindow::require_thin(ui::Input& diameter,
               fixed_down(greatest_mm, decimals) + " mm");
 }
 
-void DipoleWindow::notice_unless(bool holds, QWidget& focus, std::string_view text) {
-  require(holds, focus, text, "MESSAGGIO DI AVVISO");
-}
-
 void DipoleWindow::show_one(ui::Schematic& shown, ui::Schematic& hidden,
                             std::initializer_list<ui::Value*> values) {
   hidden.clear();

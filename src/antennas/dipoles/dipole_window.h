@@ -30,8 +30,6 @@ class DipoleWindow : public ui::Calculator {
 
   /// Unless the conductor in the box is thin enough at the highest of these frequencies.
   void require_thin(ui::Input& diameter, std::initializer_list<Real> frequencies_mhz) const;
-  /// As require, as a notice.
-  static void notice_unless(bool holds, QWidget& focus, std::string_view text);
 
   /// Of two drawings in one place shows one, empty, with the values of both on it.
   static void show_one(ui::Schematic& shown, ui::Schematic& hidden,

@@ -37,7 +37,8 @@ Real turns_inductance_h(const EhAntenna& antenna, Real turns) {
   if (turns <= 0) {
     return 0;
   }
-  return coils::solenoid_inductance_h(antenna.diameter_m / 2, turns * antenna.pitch_m, turns);
+  return coils::handbook_solenoid_inductance_h(antenna.diameter_m / 2, turns * antenna.pitch_m,
+                                               turns);
 }
 
 /// In a circuit with so much reactance of each sign.

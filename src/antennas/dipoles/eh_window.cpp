@@ -3,17 +3,11 @@
 #include <optional>
 #include <string>
 
+#include "antennas/wavelength.h"
 #include "common/number_text.h"
-#include "common/physics.h"
 #include "common/rounding.h"
 
 namespace eterlab::antennas {
-
-namespace {
-
-constexpr std::string_view notice = "MESSAGGIO DI AVVISO";
-
-}  // namespace
 
 EhWindow::EhWindow(std::string_view name, std::string_view title, std::string_view how_to_tune,
                    int columns, int rows)
@@ -63,18 +57,16 @@ EhBody EhWindow::checked_body(const EhAntenna& antenna) {
           "LA LUNGHEZZA DEI CILINDRI VA DA 1 A 12 DIAMETRI");
   require(pitch_mm >= 0.2 && pitch_mm <= diameter_mm, txtpasso,
           "IL PASSO DELLE SPIRE VA DA 0.2 mm AL DIAMETRO DEI CILINDRI");
-  const Real wavelength_m = speed_of_light_m_per_s / antenna.frequency_hz;
-  require(eh_length_m(antenna) <= wavelength_m / 10, txtlunghezza,
-          "L'ANTENNA SUPERA UN DECIMO DI LUNGHEZZA D'ONDA: ACCORCIARE I CILINDRI", notice);
+  const Real wavelength_m = antennas::wavelength_m(txtfrequenza.value());
+  advise(eh_length_m(antenna) <= wavelength_m / 10, txtlunghezza,
+         "L'ANTENNA SUPERA UN DECIMO DI LUNGHEZZA D'ONDA: ACCORCIARE I CILINDRI");
   const std::optional<EhBody> body = eh_body(antenna);
-  require(body.has_value(), txtdiametro, "OCCORRONO PIU' DI 300 SPIRE: USARE CILINDRI PIU' GRANDI",
-          notice);
+  advise(body.has_value(), txtdiametro, "OCCORRONO PIU' DI 300 SPIRE: USARE CILINDRI PIU' GRANDI");
   return *body;
 }
 
 void EhWindow::require_coil(bool is_good) {
-  require(is_good, txtq, "LA BOBINA PERDE TROPPO: OCCORRONO CILINDRI PIU' GRANDI O UN Q PIU' ALTO",
-          notice);
+  advise(is_good, txtq, "LA BOBINA PERDE TROPPO: OCCORRONO CILINDRI PIU' GRANDI O UN Q PIU' ALTO");
 }
 
 void EhWindow::tell(const EhBody& body, const EhRadiation& radiation) {

@@ -170,8 +170,8 @@ class frmantcoaxmulti final : public DipoleWindow {
     const std::optional<Real> outer_m =
         OuterSection{std::array{inner_m}, {low_mhz, txtdiametro.value()}}.length_m(
             std::array{reactance_ohm});
-    notice_unless(outer_m.has_value(), txtsupporto,
-                  "LA TRAPPOLA CARICA TROPPO: COLLEGARE L'USCITA ALLA CALZA O RIDURRE IL SUPPORTO");
+    advise(outer_m.has_value(), txtsupporto,
+           "LA TRAPPOLA CARICA TROPPO: COLLEGARE L'USCITA ALLA CALZA O RIDURRE IL SUPPORTO");
 
     lblspire = "SPIRE = " + fixed(trap.turns, 1);
     lblcavo = "CAVO PER OGNI TRAPPOLA = " + fixed(100 * trap.cable_m, 0) + " cm.";

@@ -148,8 +148,7 @@ class frmantmultigamma final : public DipoleWindow {
     }
     const std::optional<std::vector<TrapSection>> sections =
         trap_dipole(frequencies_mhz, capacitances_pf, txtdiametro.value());
-    notice_unless(sections.has_value(), txtc1,
-                  "LE TRAPPOLE CARICANO TROPPO: AUMENTARE I CONDENSATORI");
+    advise(sections.has_value(), txtc1, "LE TRAPPOLE CARICANO TROPPO: AUMENTARE I CONDENSATORI");
 
     Real arm_m = 0;
     int row = 0;

@@ -110,12 +110,12 @@ class frmantpresacalcolata final : public DipoleWindow {
     const Real feeder_ohm = txtimpedenza.value();
     require_thin(txtdiametro, {conductor.frequency_mhz});
     if (is_cut) {
-      notice_unless(feeder_ohm > dipole_impedance_ohm(half_wave_arm_m(conductor), conductor).real(),
-                    txtimpedenza, "IMPEDENZA INFERIORE A QUELLA DEL CENTRO DEL DIPOLO");
+      advise(feeder_ohm > dipole_impedance_ohm(half_wave_arm_m(conductor), conductor).real(),
+             txtimpedenza, "IMPEDENZA INFERIORE A QUELLA DEL CENTRO DEL DIPOLO");
     }
     const std::optional<OffCentreDipole> dipole =
         is_cut ? cut_wire_tap(feeder_ohm, conductor) : single_wire_tap(feeder_ohm, conductor);
-    notice_unless(dipole.has_value(), txtimpedenza, "IMPEDENZA TROPPO ALTA PER QUESTO CONDUTTORE");
+    advise(dipole.has_value(), txtimpedenza, "IMPEDENZA TROPPO ALTA PER QUESTO CONDUTTORE");
 
     const Real near_m = dipole->half_m - dipole->tap_m;
     lbllunghezza = "LUNGHEZZA TOTALE = " + metres_text(2 * dipole->half_m);

@@ -156,21 +156,20 @@ class frmcaricolineare final : public DipoleWindow {
     require_thin(txtfilo, {frequency_mhz});
     const Conductor conductor{frequency_mhz, txtdiametro.value()};
     const Real wavelength_m = conductor.wavelength_m();
-    notice_unless(
-        arm_m < half_wave_arm_m(conductor), txtlunghezza,
-        is_dipole ? "DIPOLO PIU' LUNGO DI 1/2 LAMBDA" : "RADIATORE PIU' LUNGO DI 1/4 LAMBDA");
-    notice_unless(reaches(arm_m, wavelength_m / 20), txtlunghezza,
-                  is_dipole ? "DIPOLO TROPPO CORTO: MENO DI 1/10 DI LAMBDA"
-                            : "RADIATORE TROPPO CORTO: MENO DI 1/20 DI LAMBDA");
+    advise(arm_m < half_wave_arm_m(conductor), txtlunghezza,
+           is_dipole ? "DIPOLO PIU' LUNGO DI 1/2 LAMBDA" : "RADIATORE PIU' LUNGO DI 1/4 LAMBDA");
+    advise(reaches(arm_m, wavelength_m / 20), txtlunghezza,
+           is_dipole ? "DIPOLO TROPPO CORTO: MENO DI 1/10 DI LAMBDA"
+                     : "RADIATORE TROPPO CORTO: MENO DI 1/20 DI LAMBDA");
     require(reaches(spacing_mm, conductor.diameter_mm + 2 * load_wire_mm), txtdistanza,
             "DISTANZA TRA I FILI INSUFFICIENTE");
     require(reaches(1000 * wavelength_m / 100, spacing_mm), txtdistanza,
             "DISTANZA TRA I FILI ECCESSIVA");
     const LinearLoad load = linear_load({arm_m, conductor, load_wire_mm, spacing_mm});
-    notice_unless(load.length_m >= 0.05 * arm_m, txtlunghezza,
-                  "IL RADIATORE E' QUASI INTERO: CARICO NON NECESSARIO");
-    notice_unless(load.length_m <= 0.9 * arm_m, txtlunghezza,
-                  "CARICO PIU' LUNGO DEL RADIATORE: ALLONTANARE I FILI O ALLUNGARE L'ANTENNA");
+    advise(load.length_m >= 0.05 * arm_m, txtlunghezza,
+           "IL RADIATORE E' QUASI INTERO: CARICO NON NECESSARIO");
+    advise(load.length_m <= 0.9 * arm_m, txtlunghezza,
+           "CARICO PIU' LUNGO DEL RADIATORE: ALLONTANARE I FILI O ALLUNGARE L'ANTENNA");
 
     lbllun = metres_text(load.length_m);
     lbldis = plain(spacing_mm) + " mm";

@@ -86,8 +86,8 @@ class frmmultigammaott final : public DipoleWindow {
     require(reaches(10 * bands.low_mhz, bands.high_mhz), txtf3,
             "LA TERZA FREQUENZA NON PUO' SUPERARE 10 VOLTE LA PRIMA");
     const std::optional<SinglePairDipole> dipole = single_pair_dipole(bands, txtdiametro.value());
-    notice_unless(dipole.has_value(), txtf3,
-                  "NESSUNA TRAPPOLA ACCORDA QUESTE TRE BANDE: CAMBIARE LA TERZA FREQUENZA");
+    advise(dipole.has_value(), txtf3,
+           "NESSUNA TRAPPOLA ACCORDA QUESTE TRE BANDE: CAMBIARE LA TERZA FREQUENZA");
 
     lblinduttanza = "INDUTTANZA DELLA TRAPPOLA = " + fixed(dipole->inductance_h * 1e6, 2) + " uH";
     lblcapacita = "CONDENSATORE DELLA TRAPPOLA = " + fixed(dipole->capacitance_f * 1e12, 1) + " pF";

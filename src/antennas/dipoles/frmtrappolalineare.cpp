@@ -90,12 +90,10 @@ class frmtrappolalineare final : public DipoleWindow {
     require_thin(txtdiametro, {high_mhz, low_mhz});
     require(reaches(0.9 * high_mhz, low_mhz), txtf2,
             "LA SECONDA FREQUENZA DEVE ESSERE ALMENO IL 10 % PIU' BASSA");
-    notice_unless(suits_linear_trap(line, high_mhz), cmblinea,
-                  "LINEA NON ADATTA A QUESTA FREQUENZA");
+    advise(suits_linear_trap(line, high_mhz), cmblinea, "LINEA NON ADATTA A QUESTA FREQUENZA");
     const LinearTrapDipole dipole =
         linear_trap_dipole(line, high_mhz, low_mhz, txtdiametro.value());
-    notice_unless(dipole.outer_m >= 0.05 * dipole.line_m, txtf2,
-                  "BANDE TROPPO VICINE PER QUESTA LINEA");
+    advise(dipole.outer_m >= 0.05 * dipole.line_m, txtf2, "BANDE TROPPO VICINE PER QUESTA LINEA");
 
     lbltratto1 = metres_text(dipole.line_m);
     lblcorto = metres_text(dipole.bridge_m);

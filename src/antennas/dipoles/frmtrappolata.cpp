@@ -103,13 +103,12 @@ class frmtrappolata final : public DipoleWindow {
     const CoilLoadedDipole dipole{arm_m, coil_place_m, conductor};
     const Real whole_arm_m = half_wave_arm_m(conductor);
     const char* const too_long = "DIPOLO PIU' LUNGO DI 1/2 LAMBDA";
-    notice_unless(arm_m < whole_arm_m, txtlunghezza, too_long);
-    notice_unless(reaches(2 * arm_m, conductor.wavelength_m() / 10), txtlunghezza,
-                  "DIPOLO TROPPO CORTO: MENO DI 1/10 DI LAMBDA");
-    notice_unless(reaches(furthest_share * arm_m, coil_place_m), txtdistanza, "DISTANZA ECCESSIVA");
-    notice_unless(reaches(coil_place_m, nearest_share * arm_m), txtdistanza,
-                  "DISTANZA INSUFFICIENTE");
-    notice_unless(!is_resonant_without_coils(dipole), txtlunghezza, too_long);
+    advise(arm_m < whole_arm_m, txtlunghezza, too_long);
+    advise(reaches(2 * arm_m, conductor.wavelength_m() / 10), txtlunghezza,
+           "DIPOLO TROPPO CORTO: MENO DI 1/10 DI LAMBDA");
+    advise(reaches(furthest_share * arm_m, coil_place_m), txtdistanza, "DISTANZA ECCESSIVA");
+    advise(reaches(coil_place_m, nearest_share * arm_m), txtdistanza, "DISTANZA INSUFFICIENTE");
+    advise(!is_resonant_without_coils(dipole), txtlunghezza, too_long);
 
     const CoilLoading loading = coil_loading(dipole);
     const std::string inductance_uh = fixed(loading.inductance_h * 1e6, 2) + " uH";

@@ -1,8 +1,9 @@
 #include <array>
 
 #include "antennas/loops/magnetic_loop.h"
+#include "antennas/wavelength.h"
 #include "common/number_text.h"
-#include "common/physics.h"
+#include "materials/metals.h"
 #include "ui/ui.h"
 
 namespace eterlab::antennas {
@@ -81,13 +82,13 @@ class frminfoloop final : public ui::Window {
     constexpr double power_w = 100;
     int row = 0;
     for (const auto& [conductor_m, frequency_mhz] : examples) {
-      const MagneticLoop loop{LoopShape::circle, conductor_m, tube_mm, copper_tube_ohm_m};
-      const Real frequency_hz = frequency_mhz * 1e6;
-      const TunedLoop tuned = tuned_loop(loop, frequency_hz);
+      const MagneticLoop loop{LoopShape::circle, conductor_m, tube_mm,
+                              materials::copper.resistivity_ohm_m()};
+      const TunedLoop tuned = tuned_loop(loop, frequency_mhz * 1e6);
       int column = 0;
       tblesempi.at(row, column++) = fixed(loop_width_m(loop), 2);
       tblesempi.at(row, column++) = plain(frequency_mhz);
-      tblesempi.at(row, column++) = fixed(conductor_m * frequency_hz / speed_of_light_m_per_s, 2);
+      tblesempi.at(row, column++) = fixed(conductor_m / wavelength_m(frequency_mhz), 2);
       tblesempi.at(row, column++) = fixed(1e12 * tuned.capacitance_f, 0);
       tblesempi.at(row, column++) = fixed(100 * tuned.efficiency, 0);
       tblesempi.at(row, column++) = fixed(10 * log10(tuned.efficiency), 1);

@@ -2,9 +2,10 @@
 #include <string>
 
 #include "antennas/loops/magnetic_loop.h"
+#include "antennas/wavelength.h"
 #include "common/number_text.h"
-#include "common/physics.h"
 #include "common/rounding.h"
+#include "materials/metals.h"
 #include "ui/plot.h"
 #include "ui/schematic.h"
 #include "ui/ui.h"
@@ -12,8 +13,6 @@
 namespace eterlab::antennas {
 
 namespace {
-
-constexpr std::string_view notice = "MESSAGGIO DI AVVISO";
 
 ui::Axis frequency_axis() { return {.title = "FREQUENZA", .unit = "MHz"}; }
 ui::Axis efficiency_axis() {
@@ -110,25 +109,25 @@ class frmloop final : public ui::Calculator {
 
   [[nodiscard]] MagneticLoop loop() const {
     constexpr std::array shapes{LoopShape::circle, LoopShape::octagon, LoopShape::square};
-    return {
-        .shape = shapes[static_cast<std::size_t>(Option1.selected())],
-        .conductor_m = txtlunghezza.value(),
-        .tube_mm = txttubo.value(),
-        .resistivity_ohm_m = Option2.selected() == 0 ? copper_tube_ohm_m : aluminium_tube_ohm_m};
+    return {.shape = shapes[static_cast<std::size_t>(Option1.selected())],
+            .conductor_m = txtlunghezza.value(),
+            .tube_mm = txttubo.value(),
+            .resistivity_ohm_m = Option2.selected() == 0 ? materials::copper.resistivity_ohm_m()
+                                                         : aluminium_tube_ohm_m};
   }
 
   void compute() override {
-    const Real frequency_hz = 1e6 * txtfrequenza.value();
+    const Real frequency_mhz = txtfrequenza.value();
     const MagneticLoop wanted = loop();
-    const Real wavelengths = wanted.conductor_m * frequency_hz / speed_of_light_m_per_s;
-    require(wavelengths <= 0.25, txtlunghezza,
-            "IL CONDUTTORE SUPERA UN QUARTO DI LUNGHEZZA D'ONDA: ACCORCIARLO", notice);
-    require(wavelengths >= 0.01, txtlunghezza,
-            "IL CONDUTTORE E' PIU' CORTO DI UN CENTESIMO DI LUNGHEZZA D'ONDA: ALLUNGARLO", notice);
+    const Real wavelengths = wanted.conductor_m / wavelength_m(frequency_mhz);
+    advise(wavelengths <= 0.25, txtlunghezza,
+           "IL CONDUTTORE SUPERA UN QUARTO DI LUNGHEZZA D'ONDA: ACCORCIARLO");
+    advise(wavelengths >= 0.01, txtlunghezza,
+           "IL CONDUTTORE E' PIU' CORTO DI UN CENTESIMO DI LUNGHEZZA D'ONDA: ALLUNGARLO");
     require(wanted.tube_mm >= 1 && reaches(25 * wanted.conductor_m, wanted.tube_mm), txttubo,
             "IL DIAMETRO DEL TUBO VA DA 1 mm A 1/40 DELLA LUNGHEZZA DEL CONDUTTORE");
 
-    const TunedLoop tuned = tuned_loop(wanted, frequency_hz);
+    const TunedLoop tuned = tuned_loop(wanted, 1e6 * frequency_mhz);
     const LoopLoad load = loop_load(tuned, txtpotenza.value());
     const std::string percent = fixed(100 * tuned.efficiency, 1) + " %";
     lblmisura = (wanted.shape == LoopShape::circle ? "DIAMETRO = " : "LATO = ") +

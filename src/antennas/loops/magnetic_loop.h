@@ -17,8 +17,6 @@ struct MagneticLoop {
   Real resistivity_ohm_m;  ///< of the metal
 };
 
-/// Resistivity of copper at high frequencies.
-inline constexpr double copper_tube_ohm_m = 1 / 5.8e7;
 /// Resistivity of the aluminium alloy that tubes are drawn from, EN AW-6060.
 inline constexpr double aluminium_tube_ohm_m = 1 / 3.1e7;
 

@@ -66,8 +66,8 @@ class frmAntAcc final : public LoadedWhipWindow {
   void compute() override {
     const BaseLoading loaded = loading();
     const auto coil = coils::spaced_coil(loaded.inductance_uh, txtbobina.value());
-    require(!coil || coil->turns >= 3, txtbobina, too_few_turns, notice);
-    require(coil.has_value(), txtbobina, wire_too_thin, notice);
+    advise(!coil || coil->turns >= 3, txtbobina, too_few_turns);
+    advise(coil.has_value(), txtbobina, wire_too_thin);
     const Real height_rad = electrical_height_rad(whip(), txtfrequenza.value());
     lblgradi = "ALTEZZA ELETTRICA = " + fixed(height_rad * 180 / pi, 1) + " GRADI";
     lblreattanza = "REATTANZA ALLA BASE = -" + fixed(loaded.whip_reactance_ohm, 1) + " Ohm";

@@ -103,11 +103,10 @@ class frmantDL7PE final : public ui::Calculator {
     const Real thinnest_mm = thinnest_microvert_mm(frequency_mhz);
     const Real thickest_mm = thickest_microvert_mm(frequency_mhz);
     constexpr double slack_mm = 1e-10;  // what the rounding of the limits takes for noise
-    require(diameter_mm >= thinnest_mm - slack_mm && diameter_mm <= thickest_mm + slack_mm,
-            txtdiametro,
-            "DIAMETRO DEL TUBO ADATTO A QUESTA FREQUENZA : DA " + fixed_up(thinnest_mm, 1) + " A " +
-                fixed_down(thickest_mm, 1) + " mm",
-            notice);
+    advise(diameter_mm >= thinnest_mm - slack_mm && diameter_mm <= thickest_mm + slack_mm,
+           txtdiametro,
+           "DIAMETRO DEL TUBO ADATTO A QUESTA FREQUENZA : DA " + fixed_up(thinnest_mm, 1) + " A " +
+               fixed_down(thickest_mm, 1) + " mm");
   }
 
   void compute() override {
@@ -115,7 +114,7 @@ class frmantDL7PE final : public ui::Calculator {
     const Microvert antenna = microvert(frequency_mhz, txtdiametro.value());
     const auto coil = coils::spaced_coil(antenna.inductance_uh, txtbobina.value());
     // Within the ranges of its boxes the coil has 4 turns or more.
-    require(coil.has_value(), txtbobina, wire_too_thin, notice);
+    advise(coil.has_value(), txtbobina, wire_too_thin);
     const std::string tube = centimetres(microvert_tube_m(frequency_mhz));
     const std::string inductance = microhenries(antenna.inductance_uh);
     const std::string counterpoise = fixed(antenna.counterpoise_m, 2) + " mt.";

@@ -83,9 +83,8 @@ class frmcapantvert final : public ui::Calculator {
     require(is_slender(antenna), txtdiametro,
             "ANTENNA TROPPO GROSSA: LA LUNGHEZZA DEVE ESSERE ALMENO 20 DIAMETRI");
     const std::string resonance = fixed(self_resonance_mhz(antenna), 2) + " MHz";
-    require(is_capacitive(antenna, frequency_mhz), txtfrequenza,
-            "OLTRE LA RISONANZA PROPRIA (" + resonance + ") L'ANTENNA NON E' PIU' UNA CAPACITA'",
-            notice);
+    advise(is_capacitive(antenna, frequency_mhz), txtfrequenza,
+           "OLTRE LA RISONANZA PROPRIA (" + resonance + ") L'ANTENNA NON E' PIU' UNA CAPACITA'");
     const Real static_pf = static_capacitance_pf(antenna);
     const Real reactance_ohm = capacitive_reactance_ohm(antenna, frequency_mhz);
     const Real w = 2 * pi * frequency_mhz;

@@ -96,10 +96,9 @@ class frmcappello final : public WhipWindow {
     const Real frequency_mhz = txtfrequenza.value();
     const Real height_rad = electrical_height_rad(mast, frequency_mhz);
     const Real degrees = height_rad * 180 / pi;
-    require(degrees >= 30, txtaltezza,
-            "RADIATORE TROPPO CORTO: SERVONO ALMENO 30 GRADI (1/12 LAMBDA)", notice);
-    require(degrees <= 75, txtaltezza, "RADIATORE GIA' VICINO A 1/4 LAMBDA: IL CAPPELLO NON SERVE",
-            notice);
+    advise(degrees >= 30, txtaltezza,
+           "RADIATORE TROPPO CORTO: SERVONO ALMENO 30 GRADI (1/12 LAMBDA)");
+    advise(degrees <= 75, txtaltezza, "RADIATORE GIA' VICINO A 1/4 LAMBDA: IL CAPPELLO NON SERVE");
     const Real capacitance_pf = hat_capacitance_pf(mast, frequency_mhz);
     const Real length_m = reachable_spoke_m(capacitance_pf);
     const HatSpokes spokes = told_spokes();
@@ -127,11 +126,10 @@ class frmcappello final : public WhipWindow {
     const auto capacitance_of = [&](Real length_m) {
       return capacitance_of_spokes_pf(spokes, length_m, height_m);
     };
-    require(shortest_m < height_m && capacitance_of(shortest_m) <= capacitance_pf, txtraggi,
-            "RAGGI TROPPO GROSSI: RIDURRE IL LORO DIAMETRO", notice);
-    require(capacitance_of(height_m) >= capacitance_pf, txtaltezza,
-            "CAPPELLO PIU' GRANDE DELL'ALTEZZA: ALLUNGARE IL RADIATORE O AUMENTARE I RAGGI",
-            notice);
+    advise(shortest_m < height_m && capacitance_of(shortest_m) <= capacitance_pf, txtraggi,
+           "RAGGI TROPPO GROSSI: RIDURRE IL LORO DIAMETRO");
+    advise(capacitance_of(height_m) >= capacitance_pf, txtaltezza,
+           "CAPPELLO PIU' GRANDE DELL'ALTEZZA: ALLUNGARE IL RADIATORE O AUMENTARE I RAGGI");
     return spoke_length_m(spokes, capacitance_pf, height_m);
   }
 };

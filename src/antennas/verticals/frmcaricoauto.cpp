@@ -74,11 +74,9 @@ class frmcaricoauto final : public LoadedWhipWindow {
 
   void compute() override {
     const BaseLoading loaded = loading();
-    require(is_below_cable_impedance(loaded), txtterra,
-            "LA RESISTENZA ALLA BASE E' GIA' VICINA A 50 Ohm O LI SUPERA: NON USARE LA PRESA",
-            notice);
-    require(can_be_tapped(loaded), txtaltezza, "RADIATORE TROPPO VICINO A 1/4 LAMBDA: ACCORCIARLO",
-            notice);
+    advise(is_below_cable_impedance(loaded), txtterra,
+           "LA RESISTENZA ALLA BASE E' GIA' VICINA A 50 Ohm O LI SUPERA: NON USARE LA PRESA");
+    advise(can_be_tapped(loaded), txtaltezza, "RADIATORE TROPPO VICINO A 1/4 LAMBDA: ACCORCIARLO");
     const TappedCoil tapped = wound(loaded);
     const Real inductance_uh = coils::inductance_uh(tapped.coil);
     lblinduttanza = "INDUTTANZA TOTALE = " + microhenries(inductance_uh);
@@ -94,10 +92,10 @@ class frmcaricoauto final : public LoadedWhipWindow {
 
   TappedCoil wound(const BaseLoading& loaded) {
     const auto turns = tapped_coil_turns(loaded, txtbobina.value());
-    require(!turns || *turns >= 4, txtbobina, too_few_turns, notice);
-    require(turns.has_value(), txtbobina, wire_too_thin, notice);
+    advise(!turns || *turns >= 4, txtbobina, too_few_turns);
+    advise(turns.has_value(), txtbobina, wire_too_thin);
     const TappedCoil tapped = tapped_coil(loaded, txtbobina.value(), *turns);
-    require(can_be_wound(tapped.coil), txtbobina, wire_too_thin, notice);
+    advise(can_be_wound(tapped.coil), txtbobina, wire_too_thin);
     return tapped;
   }
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "antennas/thickness_range.h"
 #include "antennas/wavelength.h"
 #include "common/arithmetic.h"
 
@@ -14,12 +15,6 @@ struct Tube {
   [[nodiscard]] Real wavelength_m() const { return antennas::wavelength_m(frequency_mhz); }
   /// The diameter over the wavelength.
   [[nodiscard]] Real thickness() const { return diameter_mm / 1000 / wavelength_m(); }
-};
-
-/// The thickness for which something holds, both limits included.
-struct ThicknessRange {
-  double least;     ///< diameter over wavelength
-  double greatest;  ///< diameter over wavelength
 };
 
 /// What depends on the thickness of a tube: p0 + p1 x + p2 x^2, where x is the logarithm of the

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "antennas/suitable_diameter.h"
 #include "antennas/verticals/vertical_texts.h"
 
 namespace eterlab::antennas {
@@ -13,7 +14,7 @@ TubeWindow::TubeWindow(const Traits& traits)
                    "FREQUENZA in MHz",
                    {.range = traits.frequency_range_mhz, .prompt_name = "Label1"}},
       txtdiametro{this, "txtdiametro", traits.diameter_prompt, {.prompt_name = "Label2"}},
-      suitable_{traits.thickness.least, traits.thickness.greatest} {
+      suitable_{traits.thickness} {
   name_hint("Label4");
 }
 
@@ -21,8 +22,8 @@ void TubeWindow::check() {
   check_presence();
   check_range(txtfrequenza);
   const Real wavelength_m = tube().wavelength_m();
-  require(suitable_.admits(txtdiametro.value(), wavelength_m), txtdiametro,
-          suitable_.refusal(wavelength_m), notice);
+  advise(is_suitable(txtdiametro.value(), suitable_, wavelength_m), txtdiametro,
+         diameter_refusal(suitable_, wavelength_m));
 }
 
 void TubeWindow::show_length(ui::Result& result, ui::Value& on_drawing, std::string_view letter,

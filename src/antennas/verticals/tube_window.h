@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "antennas/suitable_diameter.h"
+#include "antennas/thickness_range.h"
 #include "antennas/verticals/tube.h"
 #include "ui/ui.h"
 
@@ -32,7 +32,7 @@ class TubeWindow : public ui::Calculator {
  private:
   ui::Input txtfrequenza;
   ui::Input txtdiametro;
-  SuitableDiameter suitable_;
+  ThicknessRange suitable_;
 };
 
 }  // namespace eterlab::antennas

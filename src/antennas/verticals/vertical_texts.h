@@ -11,8 +11,6 @@
 
 namespace eterlab::antennas {
 
-inline constexpr std::string_view notice = "MESSAGGIO DI AVVISO";
-
 using ui::centimetres;
 /// As typed.
 std::string metres(Real length_m);

@@ -54,8 +54,8 @@ LoadedWhipWindow::LoadedWhipWindow(std::string_view name, std::string_view title
 
 void LoadedWhipWindow::check() {
   WhipWindow::check();
-  require(is_capacitive(whip(), txtfrequenza.value()), txtaltezza,
-          "IL RADIATORE ARRIVA GIA' A 1/4 LAMBDA: LA BOBINA NON SERVE", notice);
+  advise(is_capacitive(whip(), txtfrequenza.value()), txtaltezza,
+         "IL RADIATORE ARRIVA GIA' A 1/4 LAMBDA: LA BOBINA NON SERVE");
 }
 
 BaseLoading LoadedWhipWindow::loading() const {

@@ -22,11 +22,10 @@ struct AirWinding {
   [[nodiscard]] Real length_m() const;
   /// Of each wire.
   [[nodiscard]] Real wire_length_m() const;
-  /// Of each wire. Source: Wheeler, "Inductance formulas for circular and square coils", Proc. IEEE
-  /// 70, 1982: a current sheet, within 0.1 %.
+  /// Of each wire. Source: coils/solenoid.h, with the printed coefficients.
   [[nodiscard]] Real inductance_h() const;
   /// At which it resonates with its own capacitance, one end earthed; its length from 0.1 diameters
-  /// on. The real one lies 1.2 to 1.6 times higher. Source: Medhurst, Wireless Engineer 1947.
+  /// on. The real one lies 1.2 to 1.6 times higher. Source: coils/solenoid.h.
   [[nodiscard]] Real self_resonance_hz() const;
 };
 
