@@ -3,6 +3,7 @@
 #include "antennas/dipoles/wire_antennas.h"
 #include "antennas/straight_wire.h"
 #include "common/physics.h"
+#include "lines/line_section.h"
 
 namespace eterlab::antennas {
 
@@ -11,12 +12,9 @@ Complex G5rv::centre_impedance_ohm(Real frequency_mhz) const {
 }
 
 Complex G5rv::line_impedance_ohm(Complex centre_ohm, Real frequency_mhz) const {
-  const Real wavelength_m = Conductor{frequency_mhz, diameter_mm}.wavelength_m();
-  const Real angle = 2 * pi * line_m / (line.velocity_factor * wavelength_m);
-  const Complex along{cos(angle)};
-  const Complex across{0, sin(angle)};
-  return line.impedance_ohm * (centre_ohm * along + line.impedance_ohm * across) /
-         (line.impedance_ohm * along + centre_ohm * across);
+  const Real angle =
+      2 * pi * line_m / lines::wavelength_in_line_m(frequency_mhz, line.velocity_factor);
+  return lines::LineSection{line.impedance_ohm, angle}.input_impedance_ohm(centre_ohm);
 }
 
 G5rv g5rv(Real design_mhz, Real diameter_mm, const LadderLine& line) {
