@@ -91,10 +91,10 @@ TEST_F(frmantmultigamma, HasATrapForEveryBandButTheLowest) {
 TEST_F(frmantmultigamma, HasThreeBandsToo) {
   use("mnuantmultigamma", "Option1 txtf1 txtf2 txtf3 txtc1 txtc2 txtdiametro",
       "lbltratto_0 lbltrappola_0 lblresistenza_0 lbltratto_1 lbltrappola_1 lblresistenza_1 "
-      "lblbanda_2 lbltratto_2 lbltrappola_2 lblresistenza_2 lbltotale");
+      "lblbanda_2 lbltratto_2 lbltrappola_2 lblresistenza_2 lbltotale lbldisA lbldisC");
   expect("1|14.15|7.1|3.65|50|100|2",
          "5,14 mt.|2,53 uH|72 Ohm|4,25 mt.|5,02 uH|65 Ohm|3,65 MHz|7,93 mt.||59 Ohm|LUNGHEZZA "
-         "TOTALE = 34,65 mt.");
+         "TOTALE = 34,65 mt.|A 5,14 mt.|C 7,93 mt.");
   const char* const fall = "LE FREQUENZE DEVONO DECRESCERE DI ALMENO IL 10 %";
   expect_refusal("1|14.15|12.8|3.65|50|100|2", "txtf2", fall, error);
   expect_refusal("1|14.15|7.1|6.4|50|100|2", "txtf3", fall, error);

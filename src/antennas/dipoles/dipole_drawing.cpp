@@ -2,25 +2,6 @@
 
 namespace eterlab::antennas {
 
-namespace {
-
-using Side = ui::Schematic::Side;
-
-/// Draws what is measured and tells where its length stands.
-Side measure(ui::Schematic& drawing, ui::At from, ui::At to, double dimension_y) {
-  constexpr double clearance = 0.8;
-  constexpr double overhang = 0.6;
-  const bool is_above = dimension_y < from.y;
-  const double down = is_above ? -1 : 1;
-  for (const ui::At end : {from, to}) {
-    drawing.extension({end.x, end.y + down * clearance}, {end.x, dimension_y + down * overhang});
-  }
-  drawing.dimension({from.x, dimension_y}, {to.x, dimension_y});
-  return is_above ? Side::above : Side::below;
-}
-
-}  // namespace
-
 void draw_feeder(ui::Schematic& drawing, ui::At middle, double bottom) {
   constexpr double straight = 1.8;
   constexpr double joined = 3;
@@ -46,14 +27,17 @@ void draw_trap(ui::Schematic& drawing, ui::At middle) {
 
 void draw_length(ui::Schematic& drawing, ui::At from, ui::At to, double dimension_y,
                  ui::Label& length) {
-  const Side side = measure(drawing, from, to, dimension_y);
-  drawing.label(length, {(from.x + to.x) / 2, dimension_y}, side);
-}
-
-void draw_length(ui::Schematic& drawing, ui::At from, ui::At to, double dimension_y,
-                 std::string_view letter) {
-  const Side side = measure(drawing, from, to, dimension_y);
-  drawing.mark({(from.x + to.x) / 2, dimension_y}, letter, side);
+  using enum ui::Schematic::Side;
+  constexpr double clearance = 0.8;
+  constexpr double overhang = 0.6;
+  const bool is_above = dimension_y < from.y;
+  const double down = is_above ? -1 : 1;
+  for (const ui::At end : {from, to}) {
+    drawing.extension({end.x, end.y + down * clearance}, {end.x, dimension_y + down * overhang});
+  }
+  drawing.dimension({from.x, dimension_y}, {to.x, dimension_y})
+      .label(length, {(from.x + to.x) / 2, is_above ? dimension_y : dimension_y + overhang},
+             is_above ? above : below);
 }
 
 }  // namespace eterlab::antennas

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string_view>
-
 #include "ui/schematic.h"
 
 // What the drawings of dipoles have in common.
@@ -25,8 +23,5 @@ void draw_trap(ui::Schematic& drawing, ui::At middle);
 /// with the length on the side away from the wire.
 void draw_length(ui::Schematic& drawing, ui::At from, ui::At to, double dimension_y,
                  ui::Label& length);
-/// The same with a letter.
-void draw_length(ui::Schematic& drawing, ui::At from, ui::At to, double dimension_y,
-                 std::string_view letter);
 
 }  // namespace eterlab::antennas

@@ -87,8 +87,8 @@ class frmantcoaxmulti final : public DipoleWindow {
   void draw_half_dipole(ui::Schematic& shown) {
     constexpr double wire = 5.5;
     constexpr double middle = 3;
-    constexpr double trap = 21;
-    constexpr double tip = 43;
+    constexpr double trap = 22;
+    constexpr double tip = 44;
     constexpr double half_width = 1.5;
     constexpr double half_height = 1;
     shown.terminal({middle - 0.4, wire})
@@ -98,8 +98,8 @@ class frmantcoaxmulti final : public DipoleWindow {
     draw_length(shown, {middle, wire}, {trap - half_width, wire}, 2.8, lbltratto1);
     draw_length(shown, {trap + half_width, wire}, {tip, wire}, 2.8, lbltratto2);
     // Seen larger below.
-    shown.extension({trap - half_width, wire + half_height + 0.3}, {10, 14})
-        .extension({trap + half_width, wire + half_height + 0.3}, {36, 14});
+    shown.extension({trap - half_width, wire + half_height + 0.3}, {11, 14})
+        .extension({trap + half_width, wire + half_height + 0.3}, {37, 14});
   }
 
   /// The cable on its form, both ends below it, where lines go from the shield and from the inner
@@ -108,7 +108,7 @@ class frmantcoaxmulti final : public DipoleWindow {
     using enum ui::Schematic::Side;
     constexpr double top = 14;
     constexpr double bottom = 22;
-    constexpr double first = 14;
+    constexpr double first = 15;
     constexpr double pitch = 3;
     constexpr int turns = 6;
     constexpr double last = first + pitch * turns;
@@ -140,12 +140,12 @@ class frmantcoaxmulti final : public DipoleWindow {
         .junction({last - half_cable, shield});
     if (output == TrapOutput::inner_conductor) {
       shown.wire({{last, cut}, {last, cut + 1.4}, {outer_wire, cut + 1.4}})
-          .mark({39.5, cut + 1.4}, "FILO ESTERNO", below);
+          .mark({39.7, cut + 1.4}, "FILO ESTERNO", below);
     } else {
       shown.wire({{last, cut}, {last, cut + 1}})
           .wire({{last - 3.5, joint}, {outer_wire, joint}})
           .junction({last - 3.5, joint})
-          .mark({39.5, joint}, "FILO ESTERNO", below);
+          .mark({39.7, joint}, "FILO ESTERNO", below);
     }
   }
 

@@ -1,4 +1,5 @@
 #include <array>
+#include <cstddef>
 
 #include "antennas/dipoles/dipole_drawing.h"
 #include "antennas/dipoles/dipole_window.h"

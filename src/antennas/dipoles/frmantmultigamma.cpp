@@ -1,5 +1,9 @@
+#include <array>
+#include <cstddef>
+#include <initializer_list>
+#include <iterator>
 #include <optional>
-#include <string_view>
+#include <string>
 #include <vector>
 
 #include "antennas/dipoles/dipole_drawing.h"
@@ -43,6 +47,9 @@ class frmantmultigamma final : public DipoleWindow {
       this, "txtdiametro", "DIAMETRO DEL FILO in mm", {.range = any, .prompt_name = "Label6"}};
   ui::Schematic drawing{this, "drawing", 44, 13};
   ui::Schematic drawing2{this, "drawing2", 44, 13};
+  ui::Value lbldisA{drawing, "lbldisA", "A"};
+  ui::Value lbldisB{drawing, "lbldisB", "B"};
+  ui::Value lbldisC{drawing2, "lbldisC", "C"};
   ui::ResultTable table{
       this,
       "table",
@@ -59,8 +66,6 @@ class frmantmultigamma final : public DipoleWindow {
  public:
   frmantmultigamma() : DipoleWindow{"frmantmultigamma", "DIPOLO MULTIGAMMA CON TRAPPOLE L C"} {
     open_warning_by(cmdavviso);
-    draw(drawing, {"A", "B"});
-    draw(drawing2, {"A", "B", "C"});
     table.reserve(0, "999,999999999 MHz");
     Frame1.arrange(ui::across(Option1));
     lay_out(
@@ -71,6 +76,9 @@ class frmantmultigamma final : public DipoleWindow {
             table, lbltotale),
         {&cmdchiamabobine, &cmdavviso});
 
+    for (ui::Input* input : {&txtf2, &txtc2}) {
+      ui::give_up_place_when_hidden({input, &input->prompt()});
+    }
     Option1.preset(0);
     offer(0);
     Option1.on_click([this](int index) { offer(index); });
@@ -84,26 +92,32 @@ class frmantmultigamma final : public DipoleWindow {
     for (ui::Input* input : {&txtf2, &txtc2}) {
       has_three_bands ? input->show() : input->hide();
     }
-    drawing.setVisible(!has_three_bands);
-    drawing2.setVisible(has_three_bands);
+    if (has_three_bands) {
+      draw(drawing2, drawing, {&lbldisA, &lbldisB, &lbldisC});
+    } else {
+      draw(drawing, drawing2, {&lbldisA, &lbldisB});
+    }
   }
 
-  static void draw(ui::Schematic& drawing, const std::vector<std::string_view>& letters) {
+  static void draw(ui::Schematic& shown, ui::Schematic& hidden,
+                   std::initializer_list<ui::Value*> lengths) {
+    show_one(shown, hidden, lengths);
     constexpr double wire = 5;
     constexpr double dimension = 9.5;
     constexpr double left = 4;
     constexpr double right = 41;
-    const auto sections = static_cast<double>(letters.size());
+    const auto sections = static_cast<double>(lengths.size());
     const double section = (right - left - 2 * half_trap * (sections - 1)) / sections;
-    drawing.terminal({left - 0.4, wire}).terminal({left - 0.4, wire + 2});
+    shown.terminal({left - 0.4, wire}).terminal({left - 0.4, wire + 2});
     double start = left;
-    for (const std::string_view letter : letters) {
+    for (ui::Value* length : lengths) {
+      const bool is_last = length == *std::prev(lengths.end());
       const double end = start + section;
-      drawing.rod({{start, wire}, {end, wire}});
-      draw_length(drawing, {start, wire + (start > left ? 2.0 : 2.6)},
-                  {end, wire + (letter == letters.back() ? 0.0 : 2.0)}, dimension, letter);
-      if (letter != letters.back()) {
-        draw_trap(drawing, {end + half_trap, wire});
+      shown.rod({{start, wire}, {end, wire}});
+      draw_length(shown, {start, wire + (start > left ? 2.0 : 2.6)},
+                  {end, wire + (is_last ? 0.0 : 2.0)}, dimension, *length);
+      if (!is_last) {
+        draw_trap(shown, {end + half_trap, wire});
       }
       start = end + 2 * half_trap;
     }
@@ -151,11 +165,15 @@ class frmantmultigamma final : public DipoleWindow {
     advise(sections.has_value(), txtc1, "LE TRAPPOLE CARICANO TROPPO: AUMENTARE I CONDENSATORI");
 
     Real arm_m = 0;
+    const std::array<ui::Value*, 3> lengths{&lbldisA, &lbldisB, &lbldisC};
     int row = 0;
     for (const TrapSection& section : *sections) {
+      const auto index = static_cast<std::size_t>(row);
+      const std::string length = metres_text(section.length_m);
       arm_m += section.length_m;
+      *lengths.at(index) = std::string{"ABC"[index]} + " " + length;
       table.at(row, 0) = plain(section.frequency_mhz) + " MHz";
-      table.at(row, 1) = metres_text(section.length_m);
+      table.at(row, 1) = length;
       if (section.inductance_h > 0) {
         table.at(row, 2) = fixed(section.inductance_h * 1e6, 2) + " uH";
       }

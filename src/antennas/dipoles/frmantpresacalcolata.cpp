@@ -46,6 +46,7 @@ class frmantpresacalcolata final : public DipoleWindow {
       : DipoleWindow{"frmantpresacalcolata", "DIPOLO A MEZZA ONDA CON PRESA CALCOLATA"} {
     table.reserve(0, "4.000,000 MHz");
     table.reserve(1, "12.345 - j12.345");
+    ui::give_up_place_when_hidden({&table});
     Frame1.arrange(Option1);
     lay_out(ui::column(ui::row(ui::column(Frame1, ui::form(txtfrequenza, txtdiametro, txtimpedenza),
                                           ui::stretch()),
@@ -79,7 +80,7 @@ class frmantpresacalcolata final : public DipoleWindow {
     constexpr double middle = (left_end + right_end) / 2;
     constexpr double tap = 36;
     constexpr double insulator = 1;
-    constexpr double balun_top = wire + 4;
+    constexpr double balun_top = wire + 5;
     constexpr double balun_bottom = balun_top + 3;
     constexpr double bottom = 16.5;
     shown.box({left_end - 2, wire - insulator / 2}, {left_end, wire + insulator / 2})
@@ -97,7 +98,7 @@ class frmantpresacalcolata final : public DipoleWindow {
         shown.wire({{tap + side * gap, wire}, {tap + side * gap, balun_top}})
             .wire({{tap + side * half_feeder, balun_bottom}, {tap + side * half_feeder, bottom}});
       }
-      shown.box({tap - 4.5, balun_top}, {tap + 4.5, balun_bottom})
+      shown.box({tap - 4, balun_top}, {tap + 4, balun_bottom})
           .mark({tap, (balun_top + balun_bottom) / 2}, "BALUN");
     } else {
       shown.junction({tap, wire}).wire({{tap, wire}, {tap, bottom}});

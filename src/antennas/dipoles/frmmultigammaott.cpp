@@ -14,9 +14,11 @@ namespace {
 
 // A dipole for three bands with one pair of traps, whose coil and capacitor are computed.
 class frmmultigammaott final : public DipoleWindow {
-  ui::Schematic drawing{this, "drawing", 72, 13};
+  ui::Schematic drawing{this, "drawing", 72, 14};
   ui::Value lbltratto1{drawing, "lbltratto1"};
   ui::Value lbltratto2{drawing, "lbltratto2"};
+  ui::Value lblvaloreind{drawing, "lblvaloreind"};
+  ui::Value lblvalorecap{drawing, "lblvalorecap"};
   ui::Input txtf1{this,
                   "txtf1",
                   "FREQUENZA PIU' BASSA in MHz",
@@ -61,6 +63,7 @@ class frmmultigammaott final : public DipoleWindow {
 
  private:
   void draw() {
+    using enum ui::Schematic::Side;
     constexpr double wire = 7;
     constexpr double middle = 36;
     constexpr double half = 32;
@@ -71,6 +74,8 @@ class frmmultigammaott final : public DipoleWindow {
       draw_trap(drawing, at(trap));
     }
     draw_feeder(drawing, {middle, wire}, 12.5);
+    drawing.label(lblvaloreind, {middle - trap, wire - 3}, above)
+        .label(lblvalorecap, {middle - trap, wire + 3.2}, below);
     draw_length(drawing, {middle, wire}, {middle + trap - half_trap, wire - 2}, 3, lbltratto1);
     draw_length(drawing, {middle + trap + half_trap, wire - 2}, {middle + half, wire}, 3,
                 lbltratto2);
@@ -89,8 +94,10 @@ class frmmultigammaott final : public DipoleWindow {
     advise(dipole.has_value(), txtf3,
            "NESSUNA TRAPPOLA ACCORDA QUESTE TRE BANDE: CAMBIARE LA TERZA FREQUENZA");
 
-    lblinduttanza = "INDUTTANZA DELLA TRAPPOLA = " + fixed(dipole->inductance_h * 1e6, 2) + " uH";
-    lblcapacita = "CONDENSATORE DELLA TRAPPOLA = " + fixed(dipole->capacitance_f * 1e12, 1) + " pF";
+    lblvaloreind = fixed(dipole->inductance_h * 1e6, 2) + " uH";
+    lblvalorecap = fixed(dipole->capacitance_f * 1e12, 1) + " pF";
+    lblinduttanza = "INDUTTANZA DELLA TRAPPOLA = " + lblvaloreind.content();
+    lblcapacita = "CONDENSATORE DELLA TRAPPOLA = " + lblvalorecap.content();
     lbltotale = "LUNGHEZZA TOTALE = " + metres_text(2 * (dipole->inner_m + dipole->outer_m));
     lbltratto1 = metres_text(dipole->inner_m);
     lbltratto2 = metres_text(dipole->outer_m);

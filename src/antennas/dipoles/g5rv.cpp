@@ -12,8 +12,8 @@ Complex G5rv::centre_impedance_ohm(Real frequency_mhz) const {
 }
 
 Complex G5rv::line_impedance_ohm(Complex centre_ohm, Real frequency_mhz) const {
-  const Real wavelength_m = Conductor{frequency_mhz, diameter_mm}.wavelength_m();
-  const Real angle = 2 * pi * line_m / (line.velocity_factor * wavelength_m);
+  const Real angle =
+      2 * pi * line_m / lines::wavelength_in_line_m(frequency_mhz, line.velocity_factor);
   return lines::LineSection{line.impedance_ohm, angle}.input_impedance_ohm(centre_ohm);
 }
 

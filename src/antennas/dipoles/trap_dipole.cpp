@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 
 #include "circuits/impedance.h"
 #include "common/numerics.h"

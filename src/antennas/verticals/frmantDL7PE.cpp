@@ -3,6 +3,7 @@
 #include "antennas/verticals/microvert.h"
 #include "antennas/verticals/vertical_drawing.h"
 #include "antennas/verticals/vertical_texts.h"
+#include "antennas/verticals/whip_window.h"
 #include "coils/spaced_coil.h"
 #include "common/number_text.h"
 #include "common/rounding.h"
@@ -23,7 +24,7 @@ class frmantDL7PE final : public ui::Calculator {
   ui::Input txtbobina{this,
                       "txtbobina",
                       "DIAMETRO DELLA BOBINA in mm",
-                      {.range = ui::Range{1, 1000}, .prompt_name = "Label3"}};
+                      {.range = coil_diameter_range_mm, .prompt_name = "Label3"}};
   ui::Result lbltubo{this, "lbltubo"};
   ui::Result lblcapacita{this, "lblcapacita"};
   ui::Result lblinduttanza{this, "lblinduttanza"};

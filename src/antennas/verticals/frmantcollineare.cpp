@@ -62,18 +62,18 @@ class frmantcollineare final : public TubeWindow {
     using enum ui::Schematic::Side;
     constexpr double stub = 12;
     constexpr double opening = 2.6;
-    constexpr double hub = 38;
+    constexpr double foot = 37.6;
     constexpr double tip = 1;
     const double base_length = half_waves() == 1 ? 10 : 8;
     const double half_wave =
-        (hub - tip - base_length) / half_waves() - opening;  // of the drawing, as all of these
+        (foot - tip - base_length) / half_waves() - opening;  // of the drawing, as all of these
     drawing.clear();
-    double y = hub - base_length;
-    drawing.rod({{mast, y}, {mast, hub}});
+    double y = foot - base_length;
+    drawing.rod({{mast, y}, {mast, foot}});
     drawing.extension({mast - 0.5, y}, {mast - 3.7, y})
-        .extension({mast - 0.5, hub - 0.5}, {mast - 3.7, hub - 0.5})
-        .dimension({mast - 3, y}, {mast - 3, hub - 0.5})
-        .label(lbldisA, {mast - 3, (y + hub) / 2}, left);
+        .extension({mast - 0.5, foot}, {mast - 3.7, foot})
+        .dimension({mast - 3, y}, {mast - 3, foot})
+        .label(lbldisA, {mast - 3, (y + foot) / 2}, left);
     tell_stub(y, opening, stub);
     for (int element = 0; element < half_waves(); ++element) {
       const double far_end = element == 0 ? mast + stub : mast - stub;
@@ -83,7 +83,7 @@ class frmantcollineare final : public TubeWindow {
       tell_half_wave(element, y - half_wave, y);
       y -= half_wave;
     }
-    draw_base(hub);
+    draw_base(foot);
   }
 
   void tell_stub(double y, double opening, double length) {
@@ -92,7 +92,7 @@ class frmantcollineare final : public TubeWindow {
     drawing.extension({end + 0.5, y}, {end + 2.7, y})
         .extension({end + 0.5, y - opening}, {end + 2.7, y - opening})
         .dimension({end + 2, y - opening}, {end + 2, y})
-        .label(lbldisS, {end + 2, y - opening / 2}, right)
+        .label(lbldisS, {end + 2.5, y - opening / 2}, right)
         .extension({end, y + 0.5}, {end, y + 2.2})
         .dimension({mast, y + 1.5}, {end, y + 1.5})
         .label(lbldisD, {mast + length / 2 + 0.5, y + 1.9}, below);
@@ -113,20 +113,32 @@ class frmantcollineare final : public TubeWindow {
     }
   }
 
-  void draw_base(double hub) {
+  /// The foot on an insulated terminal, the radials and the screen of the cable on the hub below.
+  void draw_base(double foot) {
     using enum ui::Schematic::Side;
+    constexpr double half_hub = 2.5;
     constexpr double radial = 14;
-    constexpr ui::At oblique{5.5, 1.6};
-    const ui::CoaxialCable section{{mast, hub + 3.5}, {mast, hub + 13}};
-    const double line = hub + 2.5;
-    drawing.rod({{mast - radial, hub + 0.5}, {mast + radial, hub + 0.5}})
-        .rod({{mast - oblique.x, hub + 0.5 + oblique.y}, {mast + oblique.x, hub + 0.5 - oblique.y}})
+    constexpr ui::At oblique{3.3, 2.6};  // of a radial that points away or nearer
+    const double hub_top = foot + 0.8;
+    const double hub_bottom = hub_top + 2.6;
+    const double radials = hub_top + 1.3;
+    const double line = hub_bottom + 2.2;
+    const double cable = mast - 1.6;  // leaves room for the line
+    const ui::CoaxialCable section{{cable, hub_bottom}, {cable, foot + 14}};
+    drawing.terminal({mast, foot + 0.4})
+        .box({mast - half_hub, hub_top}, {mast + half_hub, hub_bottom})
+        .rod({{mast - half_hub, radials}, {mast - radial, radials}})
+        .rod({{mast + half_hub, radials}, {mast + radial, radials}})
+        .rod({{mast - half_hub, hub_bottom}, {mast - half_hub - oblique.x, hub_bottom + oblique.y}})
+        .rod({{mast + half_hub, hub_top}, {mast + half_hub + oblique.x, hub_top - oblique.y}})
         .coaxial_cable(section)
-        .mark({mast + 1.5, hub + 9}, "1/4 LAMBDA DI CAVO", right)
-        .extension({mast + radial, hub + 1}, {mast + radial, line + 0.7})
+        .wire({section.screen_from, {section.screen_from.x, hub_bottom}})
+        .mark({mast + 0.5, foot + 11}, "1/4 LAMBDA DI CAVO", right)
+        .extension({mast, hub_bottom + 0.5}, {mast, line + 0.7})
+        .extension({mast + radial, radials + 0.5}, {mast + radial, line + 0.7})
         .dimension({mast, line}, {mast + radial, line})
         .label(lbldisR, {mast + radial / 2, line}, below);
-    mark_not_to_scale(drawing, {mast - 9, hub + 11.5});
+    mark_not_to_scale(drawing, {mast - 9, foot + 12});
   }
 
   static constexpr double mast = 15;

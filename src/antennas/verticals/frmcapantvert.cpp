@@ -3,6 +3,7 @@
 #include "antennas/verticals/vertical_drawing.h"
 #include "antennas/verticals/vertical_texts.h"
 #include "antennas/verticals/whip.h"
+#include "antennas/verticals/whip_window.h"
 #include "common/number_text.h"
 #include "common/physics.h"
 #include "ui/schematic.h"
@@ -17,11 +18,11 @@ class frmcapantvert final : public ui::Calculator {
   ui::Input txtlunghezza{this,
                          "txtlunghezza",
                          "LUNGHEZZA DELL'ANTENNA in mt.",
-                         {.range = ui::Range{0.01, 1000}, .prompt_name = "Label1"}};
+                         {.range = whip_height_range_m, .prompt_name = "Label1"}};
   ui::Input txtdiametro{this,
                         "txtdiametro",
                         "DIAMETRO DELL'ANTENNA in mm",
-                        {.range = ui::Range{0.1, 1000}, .prompt_name = "Label2"}};
+                        {.range = whip_diameter_range_mm, .prompt_name = "Label2"}};
   ui::Input txtfrequenza{this,
                          "txtfrequenza",
                          "FREQUENZA in MHz",

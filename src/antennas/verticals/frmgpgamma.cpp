@@ -74,7 +74,7 @@ class frmgpgamma final : public TubeWindow {
         .wire({{radiator, strap}, {gamma, strap}, {gamma, foot}})
         .junction({radiator, strap})
         .variable_capacitor({gamma, foot}, {gamma, feed})
-        .label(lbldisC, {gamma + 1.9, (foot + feed) / 2}, right)
+        .label(lbldisC, {gamma + 2.2, (foot + feed) / 2}, right)
         .wire({{gamma, feed}, cable.from})
         .coaxial_cable(cable)
         .wire({cable.screen_from, {cable.screen_from.x, hub_top + 2}, {hub_right, hub_top + 2}});
@@ -88,7 +88,7 @@ class frmgpgamma final : public TubeWindow {
         .label(lbldisP, {rod, (strap + foot) / 2}, right)
         .extension({gamma, strap - 0.5}, {gamma, spacing - 0.7})
         .dimension({radiator, spacing}, {gamma, spacing})
-        .label(lbldisS, {gamma, spacing}, right);
+        .label(lbldisS, {gamma + 0.5, spacing}, right);
     constexpr double radial_line = radial + 3;
     drawing.extension({radiator + 16, radial + 0.5}, {radiator + 16, radial_line + 0.7})
         .extension({radiator, hub_bottom + 0.5}, {radiator, radial_line + 0.7})

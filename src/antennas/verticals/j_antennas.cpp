@@ -1,14 +1,9 @@
 #include "antennas/verticals/j_antennas.h"
 
-#include "common/physics.h"
+#include "lines/geometry/geometry_factor.h"
+#include "lines/geometry/uniform_line.h"
 
 namespace eterlab::antennas {
-
-namespace {
-
-Real acosh(Real x) { return ln(x + sqrt(x * x - 1)); }
-
-}  // namespace
 
 OpenJ open_j(const Tube& tube) {
   constexpr ThicknessFit section{0.1827, 0.00784, -0.0002616};
@@ -18,8 +13,9 @@ OpenJ open_j(const Tube& tube) {
   j.short_conductor_m = section(tube) * wavelength_m;
   j.long_conductor_m = j.short_conductor_m + resonant_half_wave_m(tube);
   j.spacing_m = spacing(tube) * wavelength_m;
-  j.section_impedance_ohm =
-      free_space_impedance_ohm / pi * acosh(j.spacing_m * 1000 / tube.diameter_mm);
+  constexpr double velocity_factor = 1;  // bare conductors
+  j.section_impedance_ohm = lines::push_pull_impedance_ohm(
+      lines::wire_pair_factor(tube.diameter_mm, j.spacing_m * 1000), velocity_factor);
   return j;
 }
 

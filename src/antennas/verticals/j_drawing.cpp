@@ -21,11 +21,12 @@ void tell_height(ui::Schematic& drawing, ui::Label& height, double lower_end) {
 
 void tell_right(ui::Schematic& drawing, ui::Label& length, double upper_end, double lower_end) {
   constexpr double line = right + 3;
+  constexpr double clear_of_arrows = 0.5;  // whose heads meet beside a short length
   for (const double end : {upper_end, lower_end}) {
     drawing.extension({right + gap, end}, {line + overhang, end});
   }
   drawing.dimension({line, upper_end}, {line, lower_end})
-      .label(length, {line, (upper_end + lower_end) / 2}, Side::right);
+      .label(length, {line + clear_of_arrows, (upper_end + lower_end) / 2}, Side::right);
 }
 
 void tell_spacing(ui::Schematic& drawing, ui::Label& spacing, double at) {
