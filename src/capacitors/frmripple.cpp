@@ -25,11 +25,11 @@ class frmripple final : public ui::Calculator {
   ui::Result lblmedia{this, "lblmedia"};
   ui::Result lblripple{this, "lblripple"};
   ui::Result lbllavoro{this, "lbllavoro"};
-  ui::Schematic drawing{this, "drawing", 46, 19};
+  ui::Schematic drawing{this, "drawing", 48, 19};
   ui::Value lblvalorecapacita{drawing, "lblvalorecapacita"};
   ui::Value lblvalorecarico{drawing, "lblvalorecarico"};
   ui::Plot plot{this, "plot", {.title = "TEMPO", .unit = "s"}, {.title = "TENSIONE", .unit = "V"},
-                46,   28};
+                48,   28};
 
  public:
   frmripple() : Calculator{"frmripple", "CONDENSATORE DI FILTRO ANTI RIPPLE"} {
@@ -56,7 +56,7 @@ class frmripple final : public ui::Calculator {
     constexpr double top = 2;
     constexpr double bottom = 16;
     constexpr double capacitor_x = 23.2;
-    constexpr double load_x = 35.5;
+    constexpr double load_x = 37.5;
     drawing.clear();
     drawing.transformer(mains)
         .wire({{primary_x, mains.primary_top.y}, mains.primary_top})
@@ -131,8 +131,8 @@ class frmripple final : public ui::Calculator {
     const Real end_s = 1.5 * reservoir.period_s;
     plot.curve([&](Real time_s) { return reservoir_voltage_v(mains, reservoir, time_s); }, 0, end_s,
                "CON IL CONDENSATORE")
-        .marker(reservoir.discharge_s, "MINIMO " + eng(mains.peak_v - reservoir.ripple_v, "V"))
         .marker(reservoir.period_s, "MASSIMO " + eng(mains.peak_v, "V"))
+        .marker(reservoir.discharge_s, "MINIMO " + eng(mains.peak_v - reservoir.ripple_v, "V"))
         .curve([&](Real time_s) { return rectified_voltage_v(mains, time_s); }, 0, end_s, "SENZA");
   }
 };

@@ -61,7 +61,10 @@ class frm78xxbis final : public ui::Calculator {
                        ui::row(ui::column(Frame2.arrange(Option2), ui::stretch()),
                                ui::column(ui::form(txtdato1, txtdato2, txtvin), ui::stretch())),
                        drawing, lbluscita, lblpotenza, lblaltra, Label4));
-    Option1.on_click([this](int index) { lbl78xx = Option1[index].caption(); });
+    Option1.on_click([this](int index) {
+      lbl78xx = Option1[index].caption();
+      lbl78xx.outdate();  // it was chosen, not computed: no change is to dim it
+    });
     Option2.on_click([this](int /*index*/) {
       for (ui::Input* input : {&txtdato1, &txtdato2, &txtvin}) {
         *input = "";

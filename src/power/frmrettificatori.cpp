@@ -73,8 +73,8 @@ class frmrettificatori final : public ui::Calculator {
                 ui::column(ui::form(txtveff, txtrs, txtcorrente, txtcond), ui::stretch())),
         ui::row(drawing, plot),
         ui::row(ui::column(lblvuoto, lblvmedia, lblvmin, lblripple, ui::stretch()),
-                ui::column(lblpiv, lbltipo, lblsecondario, lblicond, ui::stretch())),
-        lbldiodo, Label5, Label6));
+                ui::column(lblpiv, lbltipo, lblsecondario, ui::stretch())),
+        lblicond, lbldiodo, Label5, Label6));
     Option1.on_click([this](int /*index*/) { show_circuit(); });
   }
 

@@ -15,7 +15,7 @@ class frmresgeneratore final : public ui::Calculator {
   ui::Result lbloutput{this, "lbloutput"};
   ui::Result lblcorto{this, "lblcorto"};
   ui::Result lblpotenza{this, "lblpotenza"};
-  ui::Schematic drawing{this, "drawing", 34, 15};
+  ui::Schematic drawing{this, "drawing", 36, 18};
   ui::Value lblvalorevuoto{drawing, "lblvalorevuoto"};
   ui::Value lblvaloreri{drawing, "lblvaloreri"};
   ui::Value lblvalorecarico{drawing, "lblvalorecarico"};
@@ -33,9 +33,9 @@ class frmresgeneratore final : public ui::Calculator {
  private:
   void draw() {
     constexpr double left = 9;
-    constexpr double right = 24;
+    constexpr double right = 26;
     constexpr double top = 4;
-    constexpr double bottom = 13;
+    constexpr double bottom = 16;
     drawing.battery({left, top}, {left, bottom})
         .named("U0", lblvalorevuoto)
         .resistor({left, top}, {right, top})

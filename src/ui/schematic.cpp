@@ -242,7 +242,16 @@ Schematic& Schematic::add(At place, const Symbol& symbol, const QTransform& turn
 
 Schematic& Schematic::add(At place, const Symbol& symbol, Flip flip) {
   const At scale = beside({}, 1, 1, flip);
-  return add(place, symbol, QTransform::fromScale(scale.x, scale.y));
+  const QTransform turned = QTransform::fromScale(scale.x, scale.y);
+  // Wires go straight on from its lines, so these are fitted to the pixels as wires are.
+  shapes_.add(Look::line, Fit::grid,
+              (turned * QTransform::fromTranslate(place.x, place.y)).map(symbol.straight));
+  Symbol rest = symbol;
+  rest.straight = {};
+  add(place, rest, turned);
+  const QRectF room = turned.mapRect(symbol.room()).translated(point(place));
+  last_part_ = {room, place, room.height() > room.width()};
+  return *this;
 }
 
 void Schematic::lead(At from, QPointF symbol, QPointF edge) {
@@ -368,7 +377,7 @@ Schematic& Schematic::transformer(const Transformer& transformer) {
   return add(transformer.place, symbols::transformer(transformer));
 }
 
-Schematic& Schematic::antenna(At foot) { return add(foot, symbols::antenna()); }
+Schematic& Schematic::antenna(At foot) { return add(foot, symbols::antenna(), QTransform{}); }
 
 Schematic& Schematic::ground(At place) {
   constexpr double stem = 0.8;

@@ -15,6 +15,7 @@
 #include "ui/fixed_area.h"
 #include "ui/label.h"
 #include "ui/message_box.h"
+#include "ui/result_table.h"
 #include "ui/text.h"
 #include "ui/text_box.h"
 #include "ui/theme.h"
@@ -114,9 +115,14 @@ void Window::blank_results() const {
 }
 
 void Window::outdate_results() {
+  const auto stays_in_table = [](const QWidget& cell) {
+    return dynamic_cast<ResultTable*>(cell.parentWidget()) != nullptr &&
+           dynamic_cast<const Blankable*>(&cell) == nullptr;
+  };
   std::vector<QPointer<Label>> outdated;
   for (QWidget* widget : findChildren<QWidget*>()) {
-    if (auto* label = dynamic_cast<Label*>(widget); label != nullptr && label->is_fresh_result()) {
+    auto* label = dynamic_cast<Label*>(widget);
+    if (label != nullptr && label->is_fresh_result() && !stays_in_table(*label)) {
       label->outdate();
       outdated.emplace_back(label);
     }

@@ -158,8 +158,7 @@ class frmtrasfuscita final : public transformers::CoreWindow {
         .ground(valve.cathode)
         .wire({transformer.primary_bottom, {transformer.primary_bottom.x, supply}})
         .terminal({transformer.primary_bottom.x, supply})
-        .named("+B", Side::left)
-        .label(lbldisma, {transformer.primary_bottom.x + 0.4, supply}, Side::right)
+        .named("+B", lbldisma, Side::right)
         .label(lbldisra, {transformer.primary_top.x, line}, Side::above);
   }
 

@@ -124,6 +124,14 @@ TEST_F(Calculators, AnyChangeOfAnInputEmptiesTheResultsOnly) {
   }
 }
 
+TEST_F(Calculators, WhatStaysInATableIsNeverDimmed) {
+  use_window("asking", "txtfirst", "lblname_0");
+  window.type("txtfirst", "7");
+  QApplication::processEvents();
+  const QWidget& name = window.control("lblname_0");
+  EXPECT_EQ(name.palette().color(name.foregroundRole()).alpha(), 255);
+}
+
 TEST_F(Calculators, AskingForSomethingElseEmptiesTheBox) {
   use_window("asking", "txtfirst txtsecond txtfree", "txtfree_prompt txtfree");
   enter("1|2|3");
