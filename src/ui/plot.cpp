@@ -244,6 +244,8 @@ std::optional<QRectF> Plot::Picture::free_room(QPointF place, QSizeF size,
       QRectF room = room_centred_at(place + away, size);
       room.moveLeft(std::clamp(room.left(), within.left(),
                                std::max(within.left(), within.right() - size.width())));
+      room.moveTop(std::clamp(room.top(), within.top(),
+                              std::max(within.top(), within.bottom() - size.height())));
       if (!within.contains(room) || !is_clear_of(room, taken)) {
         continue;
       }
