@@ -50,8 +50,8 @@ class frmimpedenza final : public LineWindow {
     Option1.preset(find_impedance);
     ask();
     lay_out(ui::column(Frame1.arrange(Option1), ui::form(txtinput, dielectric, txtlunghezza),
-                       ui::row(ui::column(lblrisultato, lblcommerciale, line, lblfrequenza,
-                                          lbltratto, ui::stretch()),
+                       ui::row(ui::column(lblrisultato, line, lblfrequenza, lbltratto,
+                                          lblcommerciale, ui::stretch()),
                                drawing),
                        Label3),
             {}, 100);

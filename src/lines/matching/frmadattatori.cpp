@@ -78,8 +78,8 @@ class frmadattatori final : public LineWindow {
     lay_out(
         ui::column(ui::row(ui::column(Option1,
                                       ui::form(txtfrequenza, txtr, txtx, txtz0, txtzs, txtvelocita),
-                                      lblimpedenza, lbldistanza, lbllunghezza, lblcavo, lblros,
-                                      lblbanda, ui::stretch()),
+                                      lblimpedenza, ui::alternatives(lblcavo, lbldistanza),
+                                      lbllunghezza, lblros, lblbanda, ui::stretch()),
                            ui::column(drawing, plot)),
                    Label7),
         {&cmdchiamaesempi, &cmdchiamacavi}, 120);
@@ -105,6 +105,8 @@ class frmadattatori final : public LineWindow {
     for (ui::Input* input : {&txtx, &txtzs}) {
       is_quarter_wave ? input->hide() : input->show();
     }
+    lblcavo.setVisible(is_quarter_wave);
+    lbldistanza.setVisible(!is_quarter_wave);
   }
 
   void draw() {
