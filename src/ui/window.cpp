@@ -22,6 +22,15 @@
 
 namespace eterlab::ui {
 
+namespace {
+
+/// A cell of a table that no input changes.
+bool stays(const Label& label) {
+  return label.role() == Label::Role::cell && dynamic_cast<const Blankable*>(&label) == nullptr;
+}
+
+}  // namespace
+
 Window::Window(std::string_view name, std::string_view title) {
   setObjectName(to_qt(name));
   setWindowTitle(to_qt(title));
@@ -116,7 +125,8 @@ void Window::blank_results() const {
 void Window::outdate_results() {
   std::vector<QPointer<Label>> outdated;
   for (QWidget* widget : findChildren<QWidget*>()) {
-    if (auto* label = dynamic_cast<Label*>(widget); label != nullptr && label->is_fresh_result()) {
+    auto* label = dynamic_cast<Label*>(widget);
+    if (label != nullptr && label->is_fresh_result() && !stays(*label)) {
       label->outdate();
       outdated.emplace_back(label);
     }
