@@ -226,8 +226,10 @@ double Plot::Picture::y_at(double value) const {
 QPointF Plot::place_of(Real x, Real y) const { return picture().at(x.value(), y.value()); }
 
 bool Plot::Picture::is_crossed(const QRectF& room) const {
+  const double margin = gap / 2 * grid_step();
+  const QRectF with_margin = room.adjusted(-margin, -margin, margin, margin);
   return std::any_of(on_curves.begin(), on_curves.end(),
-                     [&](QPointF point) { return room.contains(point); });
+                     [&](QPointF point) { return with_margin.contains(point); });
 }
 
 std::optional<QRectF> Plot::Picture::free_room(QPointF place, QSizeF size,
