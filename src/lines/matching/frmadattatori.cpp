@@ -160,7 +160,7 @@ class frmadattatori final : public LineWindow {
     constexpr double beside = right + 2;
     drawing.extension({right + 0.8, end}, {beside + 0.5, end})
         .dimension({beside, lower}, {beside, end})
-        .label(lblt, {beside, (lower + end) / 2}, Side::right);
+        .label(lblt, {beside + 0.5, (lower + end) / 2}, Side::right);
     constexpr double above = upper - 4;
     drawing.extension({middle, upper - 0.5}, {middle, above - 0.5})
         .extension({antenna, upper - 3}, {antenna, above - 0.5})
