@@ -1,3 +1,5 @@
+#include <string_view>
+
 #include "common/number_text.h"
 #include "lines/geometry/coaxial_line.h"
 #include "lines/geometry/geometry_factor.h"

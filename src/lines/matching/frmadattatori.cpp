@@ -178,6 +178,7 @@ class frmadattatori final : public LineWindow {
         .label(length, {(from + to) / 2, below}, Side::below);
   }
 
+  // A reactance below zero is one, and has its range.
   void check() override { Calculator::check(); }
 
   void compute() override {
