@@ -78,8 +78,8 @@ class frmadattatoriLC final : public ui::Calculator {
     Option1.preset(0);
     choose_network();
     lay_out(ui::column(ui::row(Option1, ui::form(txtfrequenza, txtr1, txtr2, txtq)),
-                       ui::row(ui::stretch(), drawing, ui::stretch()), lbloutput1, lbloutput2,
-                       lbloutput3, lblq, Label6),
+                       ui::row(ui::stretch(), drawing, ui::stretch()), lblq, lbloutput1, lbloutput2,
+                       lbloutput3, Label6),
             {&cmdchiamabobine});
 
     Option1.on_click([this](int) { choose_network(); });

@@ -70,9 +70,9 @@ class frmbobinamulticircolare final : public ui::Calculator {
                         {outside - 0.5, bobbin.axis + side * bobbin.outer});
     }
     drawing.dimension({outside, bobbin.axis - bobbin.outer}, {outside, bobbin.axis + bobbin.outer})
-        .label(lblde, {outside, bobbin.axis - 1.5}, Side::left)
+        .label(lblde, {outside - 0.5, bobbin.axis - 1.5}, Side::left)
         .dimension({inside, bobbin.axis - bobbin.inner}, {inside, bobbin.axis + bobbin.inner})
-        .label(lbldi, {inside, bobbin.axis - 2.5}, Side::right)
+        .label(lbldi, {inside + 0.5, bobbin.axis - 2.5}, Side::right)
         .dimension({bobbin.left, below}, {bobbin.right, below})
         .label(lbllarg, {(bobbin.left + bobbin.right) / 2, below + 0.2}, Side::below);
   }

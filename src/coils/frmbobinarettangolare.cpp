@@ -32,7 +32,7 @@ class frmbobinarettangolare final : public ui::Calculator {
                      "txtinput",
                      inductance_prompt,
                      {.range = inductance_range_uh, .prompt_name = "lblinput"}};
-  ui::Schematic drawing{this, "drawing", 51, 22};
+  ui::Schematic drawing{this, "drawing", 34, 38};
   ui::Value lbla{drawing, "lbla", "A"};
   ui::Value lblb{drawing, "lblb", "B"};
   ui::Value lbllarg{drawing, "lbllarg", "W"};
@@ -47,9 +47,9 @@ class frmbobinarettangolare final : public ui::Calculator {
     draw();
     lay_out(ui::column(
         ui::row(ui::column(Option1, ui::form(txtlatoa, txtlatob, txtlarghezza, txtfilo, txtinput),
-                           ui::stretch()),
+                           results, ui::stretch()),
                 drawing),
-        results, Label6));
+        Label6));
 
     Option1.on_click([this](int index) {
       if (is_turns_wanted(index)) {
@@ -65,7 +65,7 @@ class frmbobinarettangolare final : public ui::Calculator {
  private:
   static bool is_turns_wanted(int option) { return option == 0; }
 
-  // The form from the front in its turns; beside it the winding cut across.
+  // The form from the front in its turns; under it the winding cut across.
   void draw() {
     using Side = ui::Schematic::Side;
     constexpr ui::At corner{4, 5};
@@ -90,11 +90,11 @@ class frmbobinarettangolare final : public ui::Calculator {
         .dimension({beside, corner.y}, {beside, opposite.y})
         .label(lblb, {beside + 0.5, (corner.y + opposite.y) / 2}, Side::right);
 
-    constexpr double left = 38;
     constexpr double pitch = 1.4;
     constexpr int per_layer = 6;
+    constexpr double left = (corner.x + opposite.x - per_layer * pitch) / 2;
     constexpr double right = left + per_layer * pitch;
-    constexpr double foot = 12;
+    constexpr double foot = 33;
     drawing.shaded_box({left - 1, foot}, {right + 1, foot + 2});
     for (int layer = 0; layer < turns; ++layer) {
       for (int i = 0; i < per_layer; ++i) {

@@ -63,7 +63,7 @@ class frmmicrobobine final : public ui::Calculator {
         ui::column(ui::row(ui::column(Option1, ui::form(txtdiametro, txtfilo, txtpasso, txtinput),
                                       ui::stretch()),
                            drawing),
-                   lblspire, lbllunghezza, lbltaratura, lblfilo, Label6),
+                   lblspire, lbllunghezza, lblfilo, lbltaratura, Label6),
         {&cmdaprebobineHF, &cmdchiamaawg});
 
     Option1.on_click([this](int index) {

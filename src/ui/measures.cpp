@@ -31,8 +31,9 @@ void measure_width(Schematic& drawing, At left, At right, double height, Label& 
 void measure_height(Schematic& drawing, At top, At bottom, double across, Label& label,
                     Schematic::Side side) {
   extend_across(drawing, top, bottom, across);
+  const double beside = side == Schematic::Side::left ? across - overshoot : across + overshoot;
   drawing.dimension({across, top.y}, {across, bottom.y})
-      .label(label, {across, (top.y + bottom.y) / 2}, side);
+      .label(label, {beside, (top.y + bottom.y) / 2}, side);
 }
 
 void measure_thin_width(Schematic& drawing, At left, At right, double height, Label& label,

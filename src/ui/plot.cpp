@@ -226,8 +226,10 @@ double Plot::Picture::y_at(double value) const {
 QPointF Plot::place_of(Real x, Real y) const { return picture().at(x.value(), y.value()); }
 
 bool Plot::Picture::is_crossed(const QRectF& room) const {
+  const double margin = gap / 2 * grid_step();
+  const QRectF with_margin = room.adjusted(-margin, -margin, margin, margin);
   return std::any_of(on_curves.begin(), on_curves.end(),
-                     [&](QPointF point) { return room.contains(point); });
+                     [&](QPointF point) { return with_margin.contains(point); });
 }
 
 std::optional<QRectF> Plot::Picture::free_room(QPointF place, QSizeF size,
@@ -244,6 +246,8 @@ std::optional<QRectF> Plot::Picture::free_room(QPointF place, QSizeF size,
       QRectF room = room_centred_at(place + away, size);
       room.moveLeft(std::clamp(room.left(), within.left(),
                                std::max(within.left(), within.right() - size.width())));
+      room.moveTop(std::clamp(room.top(), within.top(),
+                              std::max(within.top(), within.bottom() - size.height())));
       if (!within.contains(room) || !is_clear_of(room, taken)) {
         continue;
       }

@@ -100,6 +100,8 @@ void ResultTable::reserve(int column, std::string_view longest_text) const {
 }
 
 void ResultTable::wrap(int column, int width_in_characters) const {
+  // Lines of one row stand closer together than rows.
+  grid_->setVerticalSpacing(theme::spacing() * 2 / 3);
   for (int row = 0; row < rows_; ++row) {
     at(row, column).setWordWrap(true);
     at(row, column).setFixedWidth(theme::characters(width_in_characters));

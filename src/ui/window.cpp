@@ -15,13 +15,21 @@
 #include "ui/fixed_area.h"
 #include "ui/label.h"
 #include "ui/message_box.h"
-#include "ui/result_table.h"
 #include "ui/text.h"
 #include "ui/text_box.h"
 #include "ui/theme.h"
 #include "ui/window_keys.h"
 
 namespace eterlab::ui {
+
+namespace {
+
+/// A cell of a table that no input changes.
+bool stays(const Label& label) {
+  return label.role() == Label::Role::cell && dynamic_cast<const Blankable*>(&label) == nullptr;
+}
+
+}  // namespace
 
 Window::Window(std::string_view name, std::string_view title) {
   setObjectName(to_qt(name));
@@ -115,14 +123,10 @@ void Window::blank_results() const {
 }
 
 void Window::outdate_results() {
-  const auto stays_in_table = [](const QWidget& cell) {
-    return dynamic_cast<ResultTable*>(cell.parentWidget()) != nullptr &&
-           dynamic_cast<const Blankable*>(&cell) == nullptr;
-  };
   std::vector<QPointer<Label>> outdated;
   for (QWidget* widget : findChildren<QWidget*>()) {
     auto* label = dynamic_cast<Label*>(widget);
-    if (label != nullptr && label->is_fresh_result() && !stays_in_table(*label)) {
+    if (label != nullptr && label->is_fresh_result() && !stays(*label)) {
       label->outdate();
       outdated.emplace_back(label);
     }

@@ -1,4 +1,5 @@
 #include "support/form_test.h"
+#include "ui/label.h"
 
 // The windows of matching sections, baluns and electrical lengths. The formulas are tested by chain
 // matrices and the like in matching_line_formulas_test.cpp.
@@ -76,6 +77,10 @@ TEST_F(frmesempiadattatori, LengthsAsOneTypes) {
             "50,0 Ohm");
   EXPECT_EQ(window.text("lblros_0 lblros_4 lblros_5 lblros_6 lblros_8 lblros_9"),
             "1,00|1,00|1,00|1,00|1,13|1,00");
+  // What no input changes is not dimmed by one.
+  for (const char* cell : {"lblcaso_0", "lbltratto_9", "lblros_8"}) {
+    EXPECT_TRUE(window.window().findChild<ui::Label*>(cell)->is_fresh_result()) << cell;
+  }
 }
 
 using frmtrasformatubi = FormTest;

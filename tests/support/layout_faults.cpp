@@ -2,7 +2,6 @@
 
 #include <QBitmap>
 #include <QLabel>
-#include <QMenu>
 #include <QPainter>
 #include <QPixmap>
 #include <QRegion>
@@ -99,10 +98,10 @@ QRegion lines_of(const ui::Schematic& schematic) {
 QList<QWidget*> visible_controls(const QWidget& window) {
   QList<QWidget*> controls;
   for (QWidget* widget : window.findChildren<QWidget*>()) {
-    const bool is_internal = widget->objectName().isEmpty() ||
-                             widget->objectName().startsWith("qt_") ||
-                             qobject_cast<QMenu*>(widget) != nullptr;
-    if (!is_internal && widget->isVisible()) {
+    const bool is_internal =
+        widget->objectName().isEmpty() || widget->objectName().startsWith("qt_");
+    // Menus and lists that open stand over the window, not in it.
+    if (!is_internal && !widget->isWindow() && widget->isVisible()) {
       controls.append(widget);
     }
   }

@@ -1,5 +1,5 @@
+#include <cstddef>
 #include <string>
-#include <string_view>
 
 #include "common/number_text.h"
 #include "lines/baluns/ferrite_balun.h"

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -130,7 +131,7 @@ class frmbaluncoax1quarto final : public LineWindow {
       drawing.extension({body - 0.3, end}, {length - 0.5, end});
     }
     drawing.dimension({length, top}, {length, bottom})
-        .label(lblquarto, {length, (top + bottom) / 2}, Side::left);
+        .label(lblquarto, {length - 0.5, (top + bottom) / 2}, Side::left);
     constexpr double below = bottom + 3;
     for (const double end : {left, right}) {
       drawing.extension({end, bottom + 0.4}, {end, below + 0.5});

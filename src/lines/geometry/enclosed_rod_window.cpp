@@ -27,7 +27,7 @@ EnclosedRodWindow::EnclosedRodWindow(const Kind& kind)
       line{this} {
   std::vector<ui::Item> items{
       either.Frame1, ui::form(size, either.txtinput, dielectric),
-      ui::row(ui::column(lblrisultato, lblcommerciale, line, ui::stretch()), drawing)};
+      ui::row(ui::column(lblrisultato, line, lblcommerciale, ui::stretch()), drawing)};
   if (!kind.note.empty()) {
     Label3 = std::make_unique<ui::Note>(this, "Label3", kind.note);
     items.emplace_back(*Label3);

@@ -1,3 +1,5 @@
+#include <string_view>
+
 #include "common/number_text.h"
 #include "lines/geometry/coaxial_line.h"
 #include "lines/geometry/geometry_factor.h"
@@ -50,8 +52,8 @@ class frmimpedenza final : public LineWindow {
     Option1.preset(find_impedance);
     ask();
     lay_out(ui::column(Frame1.arrange(Option1), ui::form(txtinput, dielectric, txtlunghezza),
-                       ui::row(ui::column(lblrisultato, lblcommerciale, line, lblfrequenza,
-                                          lbltratto, ui::stretch()),
+                       ui::row(ui::column(lblrisultato, line, lblfrequenza, lbltratto,
+                                          lblcommerciale, ui::stretch()),
                                drawing),
                        Label3),
             {}, 100);

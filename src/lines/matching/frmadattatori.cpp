@@ -78,8 +78,8 @@ class frmadattatori final : public LineWindow {
     lay_out(
         ui::column(ui::row(ui::column(Option1,
                                       ui::form(txtfrequenza, txtr, txtx, txtz0, txtzs, txtvelocita),
-                                      lblimpedenza, lbldistanza, lbllunghezza, lblcavo, lblros,
-                                      lblbanda, ui::stretch()),
+                                      lblimpedenza, ui::alternatives(lblcavo, lbldistanza),
+                                      lbllunghezza, lblros, lblbanda, ui::stretch()),
                            ui::column(drawing, plot)),
                    Label7),
         {&cmdchiamaesempi, &cmdchiamacavi}, 120);
@@ -105,6 +105,8 @@ class frmadattatori final : public LineWindow {
     for (ui::Input* input : {&txtx, &txtzs}) {
       is_quarter_wave ? input->hide() : input->show();
     }
+    lblcavo.setVisible(is_quarter_wave);
+    lbldistanza.setVisible(!is_quarter_wave);
   }
 
   void draw() {
@@ -158,7 +160,7 @@ class frmadattatori final : public LineWindow {
     constexpr double beside = right + 2;
     drawing.extension({right + 0.8, end}, {beside + 0.5, end})
         .dimension({beside, lower}, {beside, end})
-        .label(lblt, {beside, (lower + end) / 2}, Side::right);
+        .label(lblt, {beside + 0.5, (lower + end) / 2}, Side::right);
     constexpr double above = upper - 4;
     drawing.extension({middle, upper - 0.5}, {middle, above - 0.5})
         .extension({antenna, upper - 3}, {antenna, above - 0.5})
@@ -176,6 +178,7 @@ class frmadattatori final : public LineWindow {
         .label(length, {(from + to) / 2, below}, Side::below);
   }
 
+  // A reactance below zero is one, and has its range.
   void check() override { Calculator::check(); }
 
   void compute() override {

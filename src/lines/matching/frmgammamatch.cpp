@@ -1,3 +1,5 @@
+#include <string_view>
+
 #include "common/number_text.h"
 #include "lines/matching/gamma_match.h"
 #include "ui/schematic.h"
