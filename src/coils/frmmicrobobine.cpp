@@ -121,7 +121,7 @@ class frmmicrobobine final : public ui::Calculator {
             "IL PASSO NON PUO' ESSERE MINORE DEL DIAMETRO DEL FILO");
     const Real widest_m = widest_pitch_m(coil);
     require(txtpasso.value() <= 1000 * widest_m + slack_mm, txtpasso,
-            "PASSO TROPPO LARGO: AL MASSIMO " + millimetres(widest_m, 2));
+            "PASSO TROPPO LARGO: AL MASSIMO " + fixed_down(1000 * widest_m, 2) + " mm");
   }
 
   void stretch_to(const ShortCoil& coil, Real inductance_h) {

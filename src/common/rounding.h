@@ -21,9 +21,6 @@ std::string fixed_up(Real x, int decimals);
 /// @copydoc fixed_up
 std::string fixed_down(Real x, int decimals);
 
-/// Whether x is not below a limit, but for the rounding of decimals: 0.3 reaches 1.5 times 0.2.
-bool reaches(Real x, Real limit);
-
 /// @}
 
 /// Whether x is not below a limit, but for the rounding of decimals, 1E-12 of the limit: 0.3

@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <QKeyEvent>
 #include <string>
 #include <vector>
@@ -86,7 +87,8 @@ class frmcerca final : public ui::Window {
   void open_current() {
     if (const MenuEntry* entry = current(); entry != nullptr) {
       close();
-      open(entry->window, entry->showing);
+      const bool is_over_modal = QApplication::activeModalWidget() != nullptr;
+      open(entry->window, is_over_modal ? ui::Showing::modal : entry->showing);
     }
   }
 };

@@ -42,7 +42,7 @@ class frmautotraserieu final : public ui::Calculator {
   ui::Result lbltipo{this, "lbltipo"};
   ui::Result lblcomune{this, "lblcomune"};
   ui::Result lblserie{this, "lblserie"};
-  ui::Schematic drawing{this, "drawing", 40, 28};
+  ui::Schematic drawing{this, "drawing", 43, 28};
   ui::ControlArray<ui::Value> lblpresa{drawing, "lblpresa", taps};
   ui::ControlArray<ui::Value> lbluso{drawing, "lbluso", taps};
   ui::Note Label4{this, "Label4",

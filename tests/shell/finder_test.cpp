@@ -128,6 +128,9 @@ TEST_F(frmcerca, IsInReachOverAModalWindow) {
   const Driven window = open_by(modal.control("txtinput1"), Qt::Key_F, Qt::ControlModifier);
   EXPECT_TRUE(window.window().isModal());
   EXPECT_EQ(QApplication::activeModalWidget(), &window.window());
+  window.type("txtcerca", "rg 58");
+  window.press(Qt::Key_Return);
+  EXPECT_TRUE(driven("frmcaviRG").window().isModal());
 }
 
 }  // namespace

@@ -138,7 +138,7 @@ class frmantcollineare final : public TubeWindow {
         .extension({mast + radial, radials + 0.5}, {mast + radial, line + 0.7})
         .dimension({mast, line}, {mast + radial, line})
         .label(lbldisR, {mast + radial / 2, line}, below);
-    mark_not_to_scale(drawing, {mast - 9, foot + 12});
+    mark_not_to_scale(drawing, {mast + 14, foot + 12.8});
   }
 
   static constexpr double mast = 15;
