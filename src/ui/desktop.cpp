@@ -80,9 +80,7 @@ Window& Desktop::load(std::string_view name) {
   return window;
 }
 
-void Desktop::place(std::string_view name, TwipsPoint corner) {
-  load(name).move(corner.pixels());
-}
+void Desktop::place(std::string_view name, TwipsPoint corner) { load(name).move(corner.pixels()); }
 
 Window* Desktop::find(std::string_view name) const {
   const auto found = windows_.find(name);
