@@ -69,7 +69,7 @@ class frmresradiazionestilo final : public ui::Calculator {
     drawing.rod({tip, base})
         .curve(current_curve(base, tip, height_wavelengths, -farthest))
         .mark({across + farthest + 3, tip.y + 1}, "CORRENTE", right)
-        .ac_source(base, under_source)
+        .resistor(base, under_source)
         .named("Rr", lblvalorebase)
         .resistor(under_source, foot)
         .named("Rt", lblvaloreterra)
