@@ -39,7 +39,7 @@ class frmbarattolo final : public ui::Calculator {
     using Side = ui::Schematic::Side;
     constexpr double bottom_x = 2;
     constexpr double mouth_x = 35;
-    constexpr double probe_x = 12;
+    constexpr double probe_x = 15;
     constexpr double upper_y = 8;
     constexpr double lower_y = 20;
     constexpr double tip_y = 15;
