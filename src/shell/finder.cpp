@@ -129,6 +129,7 @@ std::vector<const MenuEntry*> find_entries(std::string_view text) {
   }
   std::ranges::stable_sort(found, {}, &std::pair<int, const MenuEntry*>::first);
   std::vector<const MenuEntry*> entries;
+  entries.reserve(found.size());
   for (const auto& [away, entry] : found) {
     entries.push_back(entry);
   }
