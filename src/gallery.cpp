@@ -1,11 +1,15 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QImage>
 #include <QPainter>
 #include <QPixmap>
 #include <QTextStream>
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
+#include <map>
+#include <utility>
 #include <vector>
 
 #include "common/regional_settings.h"
@@ -37,6 +41,27 @@ Picture picture_of(ui::Window& window, bool with_example) {
   Picture picture{window.objectName(), window.grab()};
   window.close();
   return picture;
+}
+
+/// In its most frequent colours: an eighth of the bytes, and hardly to be told from the picture.
+QImage in_few_colours(const QImage& picture) {
+  constexpr std::size_t colours = 64;
+  std::map<QRgb, int> count_of;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      ++count_of[picture.pixel(x, y)];
+    }
+  }
+  std::vector<std::pair<int, QRgb>> by_count;
+  for (const auto& [colour, count] : count_of) {
+    by_count.emplace_back(-count, colour);
+  }
+  std::ranges::sort(by_count);
+  QList<QRgb> table;
+  for (std::size_t i = 0; i < std::min(colours, by_count.size()); ++i) {
+    table.push_back(by_count[i].second);
+  }
+  return picture.convertToFormat(QImage::Format_Indexed8, table);
 }
 
 /// All pictures side by side at half their size, each over its name.
@@ -75,7 +100,9 @@ QPixmap contact_sheet(const std::vector<Picture>& pictures) {
   return sheet;
 }
 
-int render(const QDir& folder, bool with_examples, QTextStream& out) {
+enum class Purpose : std::uint8_t { to_look_at, for_the_handbook };
+
+int render(const QDir& folder, bool with_examples, Purpose purpose, QTextStream& out) {
   folder.mkpath(".");
   ui::Desktop desktop;
   std::vector<Picture> pictures;
@@ -84,7 +111,9 @@ int render(const QDir& folder, bool with_examples, QTextStream& out) {
   }
   const auto save = [&](const QString& name, const QPixmap& pixels) {
     const QString file = folder.filePath(name + ".png");
-    const bool is_saved = pixels.save(file);
+    const QImage picture = pixels.toImage();
+    const bool is_saved = purpose == Purpose::for_the_handbook ? in_few_colours(picture).save(file)
+                                                               : picture.save(file);
     if (!is_saved) {
       out << "cannot write " << file << '\n';
     }
@@ -95,11 +124,10 @@ int render(const QDir& folder, bool with_examples, QTextStream& out) {
       return EXIT_FAILURE;
     }
   }
-  if (!save("contact-sheet", contact_sheet(pictures))) {
+  if (purpose == Purpose::to_look_at && !save("contact-sheet", contact_sheet(pictures))) {
     return EXIT_FAILURE;
   }
-  out << pictures.size() << " windows and a contact sheet rendered to " << folder.absolutePath()
-      << '\n';
+  out << pictures.size() << " windows rendered to " << folder.absolutePath() << '\n';
   return EXIT_SUCCESS;
 }
 
@@ -117,7 +145,9 @@ int main(int argc, char* argv[]) {
   parser.addHelpOption();
   const QCommandLineOption dark{"dark", "Render in the colours of a dark desktop."};
   const QCommandLineOption opening{"opening", "Render windows as they open, without an example."};
-  parser.addOptions({dark, opening});
+  const QCommandLineOption handbook{"handbook",
+                                    "Render in few colours, for the pages of the guide."};
+  parser.addOptions({dark, opening, handbook});
   parser.addPositionalArgument("folder", "Where the pictures go.");
   parser.process(application);
   if (parser.positionalArguments().size() != 1) {
@@ -132,5 +162,6 @@ int main(int argc, char* argv[]) {
 
   QTextStream out{stdout};
   const QDir folder{parser.positionalArguments().constFirst()};
-  return render(folder, !parser.isSet(opening), out);
+  const Purpose purpose = parser.isSet(handbook) ? Purpose::for_the_handbook : Purpose::to_look_at;
+  return render(folder, !parser.isSet(opening), purpose, out);
 }

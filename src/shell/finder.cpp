@@ -5,34 +5,12 @@
 #include <utility>
 
 #include "shell/window_words.h"
+#include "shell/words.h"
 #include "ui/text.h"
 
 namespace eterlab::shell {
 
 namespace {
-
-/// Small letters without accents; what is neither letter nor digit parts words, but for what joins
-/// numbers: "1:1", "5/8", "2.4".
-QStringList words_of(std::string_view text) {
-  QString folded;
-  for (const QChar letter : ui::to_qt(text).normalized(QString::NormalizationForm_KD).toLower()) {
-    if (!letter.isMark()) {
-      folded += letter.isLetterOrNumber() || letter == ':' || letter == '/' || letter == '.'
-                    ? letter
-                    : QChar{' '};
-    }
-  }
-  QStringList words;
-  for (QString word : folded.split(' ', Qt::SkipEmptyParts)) {
-    while (word.endsWith('.') || word.endsWith(':')) {
-      word.chop(1);
-    }
-    if (!word.isEmpty()) {
-      words += word;
-    }
-  }
-  return words;
-}
 
 const MenuEntry* find_menu(std::string_view name) {
   const auto all = menu_catalogue();

@@ -24,9 +24,9 @@ constexpr std::array<std::string_view, 6> paragraphs{
     "Un risultato si copia selezionandolo con il mouse e premendo Ctrl+C, oppure con il tasto "
     "destro, che copia anche il solo numero, scritto come lo vogliono le caselle. Le finestre con "
     "il pulsante STAMPA SCHEDA si stampano così come sono sulla stampante predefinita.",
-    "I tasti: F10 apre i menù della finestra principale. In ogni finestra Ctrl+F o F3 cerca un "
-    "calcolo, F6 passa al risultato seguente, Ctrl+P stampa la finestra, Ctrl+Maiusc+C ne copia "
-    "tutti i dati e i risultati."};
+    "I tasti: F10 apre i menù della finestra principale. In ogni finestra F1 apre la guida, con "
+    "la formula e la sua fonte, Ctrl+F o F3 cerca un calcolo, F6 passa al risultato seguente, "
+    "Ctrl+P stampa la finestra, Ctrl+Maiusc+C ne copia tutti i dati e i risultati."};
 
 // What a new user needs, on one page, and the licence behind it.
 class frmabaut final : public ui::Window {

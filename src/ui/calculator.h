@@ -29,6 +29,9 @@ class Calculator : public Window {
   /// A window that does more than this here does it before.
   void load() override;
 
+  /// There are none: every change empties the results.
+  void outdate_results() final {}
+
  protected:
   /// Computes from inputs that have passed their checks (as the user types: from those that are
   /// usable) and writes the results. A check that fails in here ends it. So does a fault of the

@@ -42,21 +42,6 @@ QPicture picture_of(QWidget& window) {
   return picture;
 }
 
-/// Title and date, over a line across the page; returns the room that they take.
-double print_heading(const QWidget& window, QPainter& painter, const QSizeF& page) {
-  painter.setFont(QFont{window.font().family(), QApplication::font().pointSize()});
-  const double line = painter.fontMetrics().height();
-  const QString date = QLocale{QLocale::Italian}.toString(QDate::currentDate(), "d MMMM yyyy");
-  const QRectF room{0, 0, page.width(), line};
-  const double title_width = page.width() - painter.fontMetrics().horizontalAdvance(date) - line;
-  painter.drawText(room, Qt::AlignRight, date);
-  painter.drawText(room, Qt::AlignLeft,
-                   painter.fontMetrics().elidedText(window.windowTitle().simplified(),
-                                                    Qt::ElideRight, static_cast<int>(title_width)));
-  painter.drawLine(QPointF{0, 1.3 * line}, QPointF{page.width(), 1.3 * line});
-  return 2 * line;
-}
-
 enum class Above : std::uint8_t { none, title_and_date };
 
 /// As large as the page allows in both directions, in the middle of its top.
@@ -72,7 +57,7 @@ bool print(QWidget& window, QPrinter& printer, Above above = Above::none) {
                      1.0 * window.height() * printer.logicalDpiY() / picture.logicalDpiY()};
   QSizeF page = printer.pageRect(QPrinter::DevicePixel).size();
   if (above == Above::title_and_date) {
-    const double taken = print_heading(window, painter, page);
+    const double taken = print_heading(painter, page.width(), window.windowTitle());
     painter.translate(0, taken);
     page.rheight() -= taken;
   }
@@ -84,41 +69,57 @@ bool print(QWidget& window, QPrinter& printer, Above above = Above::none) {
   return painter.end() && printer.printerState() != QPrinter::Error;
 }
 
-void print_or_say_so(QWidget& window, QPrinter* printer, Above above) {
+void print_or_say_so(QWidget& window, QPrinter* printer, const Printing& printing) {
   if (printer == nullptr) {
     message_box(&window, Icon::exclamation, "MESSAGGIO DI ERRORE", "NESSUNA STAMPANTE DISPONIBILE");
-  } else if (!print(window, *printer, above)) {
+  } else if (!printing(*printer)) {
     message_box(&window, Icon::exclamation, "MESSAGGIO DI ERRORE", "STAMPA NON RIUSCITA");
   }
 }
 
-void set_orientation(QPrinter& printer, const QWidget& window) {
-  printer.setPageOrientation(window.width() > window.height() ? QPageLayout::Landscape
-                                                              : QPageLayout::Portrait);
-}
-
 }  // namespace
+
+double print_heading(QPainter& painter, double page_width, const QString& title) {
+  painter.setFont(QFont{QApplication::font().family(), QApplication::font().pointSize()});
+  const double line = painter.fontMetrics().height();
+  const QString date = QLocale{QLocale::Italian}.toString(QDate::currentDate(), "d MMMM yyyy");
+  const QRectF room{0, 0, page_width, line};
+  const double title_width = page_width - painter.fontMetrics().horizontalAdvance(date) - line;
+  painter.drawText(room, Qt::AlignRight, date);
+  painter.drawText(room, Qt::AlignLeft,
+                   painter.fontMetrics().elidedText(title.simplified(), Qt::ElideRight,
+                                                    static_cast<int>(title_width)));
+  painter.drawLine(QPointF{0, 1.3 * line}, QPointF{page_width, 1.3 * line});
+  return 2 * line;
+}
 
 void print_window(QWidget& window) {
   const std::unique_ptr<QPrinter> printer = other_source() ? other_source()() : default_printer();
-  print_or_say_so(window, printer.get(), Above::none);
+  print_or_say_so(window, printer.get(), [&window](QPrinter& onto) { return print(window, onto); });
 }
 
 void print_with_dialog(QWidget& window) {
+  print_with_dialog(
+      window, window.width() > window.height() ? QPageLayout::Landscape : QPageLayout::Portrait,
+      [&window](QPrinter& onto) { return print(window, onto, Above::title_and_date); });
+}
+
+void print_with_dialog(QWidget& window, QPageLayout::Orientation orientation,
+                       const Printing& printing) {
   if (other_source()) {
     const std::unique_ptr<QPrinter> printer = other_source()();
     if (printer != nullptr) {
-      set_orientation(*printer, window);
+      printer->setPageOrientation(orientation);
     }
-    print_or_say_so(window, printer.get(), Above::title_and_date);
+    print_or_say_so(window, printer.get(), printing);
     return;
   }
   QPrinter printer{QPrinter::HighResolution};
-  set_orientation(printer, window);
+  printer.setPageOrientation(orientation);
   QPrintDialog dialog{&printer, &window};
   dialog.setWindowTitle("STAMPA");
   if (dialog.exec() == QDialog::Accepted) {
-    print_or_say_so(window, &printer, Above::title_and_date);
+    print_or_say_so(window, &printer, printing);
   }
 }
 

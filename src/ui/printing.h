@@ -1,9 +1,12 @@
 #pragma once
 
+#include <QPageLayout>
 #include <functional>
 #include <memory>
 
+class QPainter;
 class QPrinter;
+class QString;
 class QWidget;
 
 // The image of a window on paper.
@@ -17,6 +20,15 @@ void print_window(QWidget& window);
 /// Lets the user choose the printer, or a file, and the paper; then prints the window under its
 /// title and the date. Upright or across, as suits the window's shape.
 void print_with_dialog(QWidget& window);
+
+/// Puts something on a printer; false where that does not take it.
+using Printing = std::function<bool(QPrinter& printer)>;
+/// The same for what is not just the window.
+void print_with_dialog(QWidget& window, QPageLayout::Orientation orientation,
+                       const Printing& printing);
+
+/// Title and date, over a line across the page; returns the room that they take.
+double print_heading(QPainter& painter, double page_width, const QString& title);
 
 /// Gives the printer to print on, null where there is none.
 using PrinterSource = std::function<std::unique_ptr<QPrinter>()>;

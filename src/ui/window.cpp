@@ -15,6 +15,7 @@
 #include "ui/fixed_area.h"
 #include "ui/label.h"
 #include "ui/message_box.h"
+#include "ui/printing.h"
 #include "ui/text.h"
 #include "ui/text_box.h"
 #include "ui/theme.h"
@@ -77,7 +78,20 @@ void Window::fit() {
                                                    : layout()->totalSizeHint().height();
   least_ = {width, std::max(least_.height(), height)};  // it never shrinks under the user's eyes
   setFixedSize(least_);
+  if (can_be_resized_) {
+    setMinimumSize(layout()->totalMinimumSize());
+    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+  }
 }
+
+void Window::allow_resizing() {
+  can_be_resized_ = true;
+  fit();
+}
+
+void Window::print() { print_with_dialog(*this); }
+
+void Window::turn_to(std::string_view /*window*/) {}
 
 void Window::refuse(QWidget& focus, std::string_view text, std::string_view title) {
   message_box(this, Icon::exclamation, title, text);
@@ -162,7 +176,7 @@ void Window::blank_on_change(std::initializer_list<TextBox*> boxes,
 
 bool Window::event(QEvent* event) {
   // A text has become longer than the room that its window was opened with.
-  if (event->type() == QEvent::LayoutRequest && layout() != nullptr) {
+  if (event->type() == QEvent::LayoutRequest && layout() != nullptr && !can_be_resized_) {
     const bool handled = QWidget::event(event);
     fit();
     return handled;

@@ -35,9 +35,14 @@ class Window : public QWidget {
   /// one extends this.
   virtual void bring_forward();
 
+  /// Ctrl+P: lets the user choose the printer and prints the window, or what it shows.
+  virtual void print();
+  /// For a window that tells of others: shows what it has about one of them.
+  virtual void turn_to(std::string_view window);
+
   /// The user has changed an input: results that are not computed anew by that are dimmed until
   /// they are.
-  void outdate_results();
+  virtual void outdate_results();
 
   /// Moves this window, moves the companion, shows it.
   void open_companion(std::string_view companion, TwipsPoint caller_corner,
@@ -54,6 +59,9 @@ class Window : public QWidget {
   /// For a window whose size the design gives: at least so much, more where the user's font asks
   /// for it; called again, it may also shrink. A menu bar does not count.
   void set_client_area(TwipsSize size);
+
+  /// For a window that the user may make larger.
+  void allow_resizing();
 
   /// For a window that Esc does not close.
   void keep_open_on_escape() { escape_closes_ = false; }
@@ -92,6 +100,7 @@ class Window : public QWidget {
   int least_width_ = 0;
   QSize least_;
   bool was_shown_ = false;
+  bool can_be_resized_ = false;
   bool escape_closes_ = true;
 };
 

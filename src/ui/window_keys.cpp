@@ -10,7 +10,6 @@
 
 #include "ui/desktop.h"
 #include "ui/label.h"
-#include "ui/printing.h"
 #include "ui/text.h"
 #include "ui/window.h"
 #include "ui/window_text.h"
@@ -46,10 +45,15 @@ void add_keys_of_every_window(Window& window) {
   const auto find = [] { Desktop::instance().show_in_reach("frmcerca"); };
   add_key(window, {Qt::CTRL | Qt::Key_F}, find);
   add_key(window, {Qt::Key_F3}, find);
+  add_key(window, {Qt::Key_F1}, [&window] {
+    const std::string subject = from_qt(window.objectName());
+    Desktop::instance().show_in_reach("frmguida");
+    Desktop::instance().load("frmguida").turn_to(subject);
+  });
   add_key(window, {Qt::Key_F6}, [&window] { go_to_next_result(window); });
   add_key(window, {Qt::CTRL | Qt::SHIFT | Qt::Key_C},
           [&window] { QApplication::clipboard()->setText(to_qt(window_text(window))); });
-  add_key(window, {Qt::CTRL | Qt::Key_P}, [&window] { print_with_dialog(window); });
+  add_key(window, {Qt::CTRL | Qt::Key_P}, [&window] { window.print(); });
 }
 
 }  // namespace eterlab::ui

@@ -93,8 +93,10 @@ class Surroundings : public WindowTest {
 };
 
 TEST_F(Surroundings, AMegabyteInABoxOfEveryWindow) {
+  // How long it takes is for the program as it is used to tell.
+  constexpr int many = ETERLAB_SANITIZED ? megabyte / 16 : megabyte;
   for (const std::string& window : windows()) {
-    expect_alike(window, "7" + QString{megabyte, 'x'}, "7x");
+    expect_alike(window, "7" + QString{many, 'x'}, "7x");
   }
 }
 
@@ -112,7 +114,10 @@ TEST_F(Surroundings, AMegabyteOfAnyKind) {
 // How each country separates digits is for ui/system_region_test.cpp.
 TEST_F(Surroundings, CountriesChangeNothingButSeparators) {
   std::map<std::string, Texts> digits_of;  // the first country's
-  for (const char* country : {"it_IT", "en_US", "de_CH", "fr_FR", "hi_IN", "ar_EG"}) {
+  const std::vector<const char*> countries =
+      ETERLAB_SANITIZED ? std::vector{"it_IT", "hi_IN"}
+                        : std::vector{"it_IT", "en_US", "de_CH", "fr_FR", "hi_IN", "ar_EG"};
+  for (const char* country : countries) {
     SCOPED_TRACE(country);
     set_regional_settings(ui::regional_settings_of(QLocale{country}));
     for_each_window([&](ui::Window& window) {

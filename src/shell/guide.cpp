@@ -1,0 +1,132 @@
+#include "shell/guide.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+#include "shell/guide_page.h"
+#include "shell/words.h"
+#include "ui/text.h"
+#include "ui/window.h"
+#include "ui/window_picture.h"
+
+namespace eterlab::shell {
+
+namespace {
+
+const QString folder = QStringLiteral(":/guida/");
+const QString ending = QStringLiteral(".md");
+
+QString file_of(std::string_view page) { return folder + ui::to_qt(file_name(page)); }
+
+/// A text that Markdown takes as it is.
+QString escaped(const QString& text) {
+  static const QRegularExpression marks{R"(([\\`*_{}\[\]<>()#|$&]))"};
+  return text.simplified().replace(marks, QStringLiteral("\\\\1"));
+}
+
+QString row_of(const ExampleStep& step, const QWidget& window) {
+  const auto* control = window.findChild<QWidget*>(ui::to_qt(step.control));
+  if (control == nullptr) {
+    return {};
+  }
+  const QString told = escaped(ui::to_qt(step.text));
+  switch (step.kind) {
+    case ExampleStep::Kind::fill_in:
+      return QStringLiteral("| %1 | %2 |\n").arg(escaped(control->accessibleName()), told);
+    case ExampleStep::Kind::click:
+      return QStringLiteral("| %1 | clic |\n").arg(escaped(control->property("text").toString()));
+    case ExampleStep::Kind::read:
+      return QStringLiteral("| %1 | **%2** |\n")
+          .arg(escaped(control->accessibleDescription()), told);
+  }
+  return {};
+}
+
+std::string table_of(const std::string& block, const QWidget& window) {
+  QString table = QStringLiteral("\n| Casella o pulsante | Dato o **risultato** |\n|---|---|\n");
+  for (const ExampleStep& step : parse_example(block)) {
+    table += row_of(step, window);
+  }
+  return ui::from_qt(table + '\n');
+}
+
+}  // namespace
+
+std::string file_name(std::string_view page) {
+  QString name = ui::to_qt(page).normalized(QString::NormalizationForm_KD);
+  name.removeIf([](QChar letter) { return letter.isMark(); });
+  return ui::from_qt(name + ending);
+}
+
+bool has_page(std::string_view page) { return QFile::exists(file_of(page)); }
+
+std::string page_source(std::string_view page) {
+  QFile file{file_of(page)};
+  return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string{};
+}
+
+std::string page_to_read(std::string_view page) {
+  std::string markdown;
+  for (const PageBlock& block : blocks_of(page_source(page))) {
+    if (block.fence == "esempio") {
+      const auto window = ui::window_with_example(page, QApplication::palette());
+      markdown += table_of(block.content, *window);
+    } else if (block.fence.empty()) {
+      markdown += block.content;
+    } else {
+      markdown += "```" + block.fence + '\n' + block.content + "```\n";
+    }
+  }
+  return markdown;
+}
+
+std::vector<std::string> find_pages(std::string_view text) {
+  const QStringList wanted = words_of(text);
+  if (wanted.empty()) {
+    return {};
+  }
+  std::vector<std::pair<qsizetype, std::string>> found;
+  for (const QString& file : QDir{folder}.entryList({'*' + ending})) {
+    const std::string page = ui::from_qt(file.chopped(ending.size()));
+    const std::string source = page_source(page);
+    const QStringList words = words_of(source);
+    const QStringList title = words_of(parse_page(source).title);
+    const auto is_in = [](const QStringList& all) {
+      return [&all](const QString& word) {
+        return std::ranges::any_of(all,
+                                   [&](const QString& other) { return other.startsWith(word); });
+      };
+    };
+    if (std::ranges::all_of(wanted, is_in(words))) {
+      found.emplace_back(-std::ranges::count_if(wanted, is_in(title)), page);
+    }
+  }
+  std::ranges::stable_sort(found, {}, &std::pair<qsizetype, std::string>::first);
+  std::vector<std::string> pages;
+  pages.reserve(found.size());
+  for (auto& [rank, page] : found) {
+    pages.push_back(std::move(page));
+  }
+  return pages;
+}
+
+std::string page_of_found(std::string_view text) {
+  const std::vector<std::string> pages = find_pages(text);
+  const std::string wanted = "«" + ui::from_qt(escaped(ui::to_qt(text))) + "»";
+  if (pages.empty()) {
+    return "# Nessuna pagina con " + wanted + "\n";
+  }
+  std::string list = "# Pagine con " + wanted + "\n\n";
+  for (const std::string& page : pages) {
+    list += "- [" + parse_page(page_source(page)).title + "](" + page + ".md)\n";
+  }
+  return list;
+}
+
+}  // namespace eterlab::shell
