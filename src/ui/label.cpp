@@ -107,13 +107,22 @@ void Label::showEvent(QShowEvent* event) {
   }
 }
 
-void Label::resizeEvent(QResizeEvent* event) {
-  QLabel::resizeEvent(event);
-  if (tells_result()) {
-    // A text that can be selected is laid out for its new size when its height is asked for. The
-    // toolkit would do it while painting, and then paint again all that is under the text.
-    QLabel::heightForWidth(width());
+// A text that can be selected is a document of its own, ten times as slow to lay out and to paint, so
+// it becomes one when it is to be selected. It has no focus policy before, which would do the same.
+void Label::become_selectable() {
+  if (can_be_copied() && textInteractionFlags() != Qt::TextSelectableByMouse) {
+    setTextInteractionFlags(Qt::TextSelectableByMouse);
   }
+}
+
+void Label::mousePressEvent(QMouseEvent* event) {
+  become_selectable();
+  QLabel::mousePressEvent(event);
+}
+
+void Label::select_all() {
+  become_selectable();
+  setSelection(0, static_cast<int>(text().size()));
 }
 
 void Label::on_click(Handler handler) {
@@ -134,7 +143,9 @@ void Label::set_role(Role role) {
   setFont(theme::font_of(role));
   setForegroundRole(role == Role::note ? QPalette::PlaceholderText : QPalette::WindowText);
   setAlignment(role == Role::drawing ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
-  setTextInteractionFlags(can_be_copied() ? Qt::TextSelectableByMouse : Qt::NoTextInteraction);
+  if (can_be_copied()) {
+    setCursor(Qt::IBeamCursor);
+  }
 }
 
 QSize Label::sizeHint() const {
@@ -194,8 +205,7 @@ void Label::contextMenuEvent(QContextMenuEvent* event) {
     menu->addAction("Copia &tutto", this,
                     [around] { QApplication::clipboard()->setText(to_qt(window_text(*around))); });
   }
-  menu->addAction("&Seleziona tutto", this,
-                  [this] { setSelection(0, static_cast<int>(text().length())); });
+  menu->addAction("&Seleziona tutto", this, &Label::select_all);
   menu->popup(event->globalPos());
 }
 

@@ -49,16 +49,19 @@ class Label : public QLabel {
   /// But for a label whose colour the design gives.
   void dim_if_outdated();
 
+  /// Selects all of a text that can be copied.
+  void select_all();
+
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
   [[nodiscard]] int heightForWidth(int width) const override;
 
  protected:
+  void mousePressEvent(QMouseEvent* event) override;
   /// Of a result: to copy what is selected, or all of it.
   void contextMenuEvent(QContextMenuEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
  private:
@@ -66,6 +69,7 @@ class Label : public QLabel {
   /// Room for what an empty label will say, so that the window keeps its size then.
   [[nodiscard]] int at_least_a_line(int height) const;
   void announce();
+  void become_selectable();
   void copy() const;
   void name_prompted();
 

@@ -36,7 +36,7 @@ void go_to_next_result(Window& window) {
   const bool is_last = here == results.end() || here + 1 == results.end();
   Label& next = is_last ? *results.front() : **(here + 1);
   next.setFocus(Qt::OtherFocusReason);
-  next.setSelection(0, static_cast<int>(next.text().size()));
+  next.select_all();
 }
 
 }  // namespace
