@@ -33,7 +33,7 @@ class frmcostruzionecondensatori final : public ui::Calculator {
   ui::Result lbltensione{this, "lbltensione"};
   ui::Note Label1{this, "Label1",
                   "GLI EFFETTI DI BORDO SONO TRASCURATI: L'ERRORE E' DI POCHI PER CENTO SE I LATI "
-                  "DELLE ARMATURE SUPERANO 20 VOLTE LA LORO DISTANZA"};
+                  "DELLE ARMATURE SUPERANO 100 VOLTE LA LORO DISTANZA"};
   ui::Schematic drawing{this, "drawing", columns, rows};
   ui::Value lblvaloresuperficie{drawing, "lblvaloresuperficie"};
   ui::Value lblvaloredistanza{drawing, "lblvaloredistanza"};

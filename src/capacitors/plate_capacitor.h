@@ -7,7 +7,8 @@ namespace eterlab::capacitors {
 /// @name Capacitors of flat plates
 /// Equal plates at equal distances, every other one connected, with a dielectric between them:
 /// C = e0 er (n - 1) A / d. Fringing at the edges is neglected: right to a few per cent where the
-/// sides of the plates are over 20 times their distance. There are 2 or more `plates`.
+/// sides of the plates are over 100 times their distance; 8 % at 50 times, 17 % at 20. There are 2
+/// or more `plates`.
 /// @{
 
 /// Capacitance in pF.

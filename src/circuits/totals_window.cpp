@@ -57,7 +57,10 @@ void TotalsWindow::compute() {
     }
   }
   std::ranges::sort(drawn);
-  draw(drawn);
+  if (drawn != drawn_) {
+    draw(drawn);
+    drawn_ = drawn;
+  }
   if (values.size() < least) {
     return;
   }

@@ -44,6 +44,7 @@ class TotalsWindow : public ui::Calculator {
   ui::Schematic drawing;
   ui::ControlArray<ui::Value> lblvaloreserie;
   ui::ControlArray<ui::Value> lblvaloreparallelo;
+  std::vector<int> drawn_;  ///< of which parts the drawing is
 };
 
 }  // namespace eterlab::circuits

@@ -29,7 +29,9 @@ FilterElements low_pass(FilterForm form, Real cutoff_mhz, Real impedance_ohm);
 /// L = R / (2 pi f) and C = 1 / (4 pi f R) for pi, L = R / (4 pi f) and C = 1 / (2 pi f R) for T.
 FilterElements high_pass(FilterForm form, Real cutoff_mhz, Real impedance_ohm);
 
-/// An m-derived low-pass in pi form, m = 0.6: a trap in series, a capacitor across each end.
+/// A low-pass in pi form with the elements of an m-derived half-section, m = 0.6: a trap in series,
+/// a capacitor across each end. It loses nothing at the cutoff, 3 dB at 1.38 times it, and most at
+/// 1.756 times, where the trap stands.
 struct TrapLowPass {
   Real trap_inductance_uh;    ///< in the line
   Real trap_capacitance_pf;   ///< parallel to it

@@ -12,8 +12,8 @@ namespace eterlab::materials {
 Real round_section_mm2(Real diameter_mm);
 
 /// Resistance of a metal at a temperature, relative to that at 20 degrees Celsius:
-/// 1 + alpha (T - 20). Good from -200 to 500 degrees, and only where it is above zero: of iron it
-/// is not below some -180 degrees.
+/// 1 + alpha (T - 20). Right to a few per cent from some -70 to 200 degrees, of iron to 80, and
+/// only where it is above zero: of iron it is not below some -180 degrees.
 Real temperature_factor(const Metal& metal, Real temperature_c);
 
 /// Resistance at 20 degrees Celsius of a conductor of constant section, which must not be zero.

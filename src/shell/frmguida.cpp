@@ -70,6 +70,8 @@ class frmguida final : public ui::Window {
             width);
     txtcerca_prompt.set_prompt_of(txtcerca);
     allow_resizing();
+    cmdindietro.setEnabled(false);
+    cmdapri.setEnabled(false);
     cmdindietro.on_click([this] { go_back(); });
     cmdindice.on_click([this] { turn_to(contents_page); });
     cmdseguente.on_click([this] { search(); });
@@ -80,8 +82,6 @@ class frmguida final : public ui::Window {
     txtguida.on_back([this] { go_back(); });
     txtguida.on_link([this](const std::string& target) { follow(target); });
   }
-
-  void load() override { show_place({std::string{contents_page}, {}, 0}); }
 
   void show_example() override { turn_to("frmrisonanza"); }
 
@@ -101,8 +101,10 @@ class frmguida final : public ui::Window {
 
  private:
   void leave_for(const Place& place) {
-    here_.scrolled = txtguida.scrolled();
-    before_.push_back(here_);
+    if (const bool is_first = here_.page.empty() && here_.searched.empty(); !is_first) {
+      here_.scrolled = txtguida.scrolled();
+      before_.push_back(here_);
+    }
     show_place(place);
   }
 

@@ -107,8 +107,9 @@ void Label::showEvent(QShowEvent* event) {
   }
 }
 
-// A text that can be selected is a document of its own, ten times as slow to lay out and to paint, so
-// it becomes one when it is to be selected. It has no focus policy before, which would do the same.
+// A text that can be selected is a document of its own, ten times as slow to lay out and to paint,
+// so it becomes one when it is to be selected. It has no focus policy before, which would do the
+// same.
 void Label::become_selectable() {
   if (can_be_copied() && textInteractionFlags() != Qt::TextSelectableByMouse) {
     setTextInteractionFlags(Qt::TextSelectableByMouse);

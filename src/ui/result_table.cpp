@@ -28,11 +28,21 @@ class Cell : public Label {
     if (wordWrap()) {
       return Label::sizeHint();
     }
-    QFont bold = font();
-    bold.setBold(true);
-    return Label::sizeHint().expandedTo(
-        QFontMetrics{bold}.boundingRect({}, Qt::AlignLeft, text()).size());
+    if (measured_text_ != text() || measured_font_ != font()) {
+      measured_text_ = text();
+      measured_font_ = font();
+      QFont bold = font();
+      bold.setBold(true);
+      marked_size_ = QFontMetrics{bold}.boundingRect({}, Qt::AlignLeft, text()).size();
+    }
+    return Label::sizeHint().expandedTo(marked_size_);
   }
+
+ private:
+  // Every layout asks for the size repeatedly.
+  mutable QString measured_text_;
+  mutable QFont measured_font_;
+  mutable QSize marked_size_;
 };
 
 class ResultCell final : public Cell, public Blankable {
