@@ -7,10 +7,12 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMap>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTableWidget>
 #include <QTimer>
 
 #include "ui/desktop.h"
@@ -58,6 +60,24 @@ QWidget* bare_widget_like(const QWidget& widget, Texts texts) {
     auto* bare = new QComboBox;
     for (int entry = 0; texts == Texts::same && entry < list->count(); ++entry) {
       bare->addItem(list->itemText(entry));
+    }
+    return bare;
+  }
+  if (const auto* table = qobject_cast<const QTableWidget*>(&widget); table != nullptr) {
+    auto* bare = new QTableWidget{table->rowCount(), table->columnCount()};
+    for (int cell = 0; texts == Texts::same && cell < bare->rowCount() * bare->columnCount();
+         ++cell) {
+      const int row = cell / bare->columnCount();
+      const int column = cell % bare->columnCount();
+      const QTableWidgetItem* item = table->item(row, column);
+      bare->setItem(row, column, new QTableWidgetItem{item == nullptr ? "" : item->text()});
+    }
+    return bare;
+  }
+  if (const auto* list = qobject_cast<const QListWidget*>(&widget); list != nullptr) {
+    auto* bare = new QListWidget;
+    for (int row = 0; texts == Texts::same && row < list->count(); ++row) {
+      bare->addItem(list->item(row)->text());
     }
     return bare;
   }
@@ -126,6 +146,25 @@ void close_all() {
     }
   }
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+std::unique_ptr<QListWidget> open_bare_list(const QListWidget& model) {
+  auto list = std::make_unique<QListWidget>();
+  for (int row = 0; row < model.count(); ++row) {
+    list->addItem(model.item(row)->text());
+  }
+  list->resize(model.size());
+  list->show();
+  list->setFocus();
+  settle();
+  return list;
+}
+
+void go_down_and_back(QListWidget& list) {
+  press(list, Qt::Key_Down);
+  settle();
+  press(list, Qt::Key_Up);
+  settle();
 }
 
 std::unique_ptr<QWidget> bare_window_like(const QWidget& window, Texts texts) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 class QLineEdit;
+class QListWidget;
 
 // What a user does with windows, for measuring, and the same with bare widgets of the toolkit.
 namespace eterlab::bench {
@@ -37,6 +38,11 @@ QLineEdit& open_example(const LiveBox& live);
 
 /// A bare box with the focus, alone in a window.
 std::unique_ptr<QLineEdit> open_bare_box();
+
+/// A bare list with the same rows, with the focus, alone in a window.
+std::unique_ptr<QListWidget> open_bare_list(const QListWidget& model);
+/// Two keys, each painted.
+void go_down_and_back(QListWidget& list);
 
 /// A digit, and the key that takes it back.
 constexpr int strokes_typed = 2;

@@ -34,12 +34,14 @@ const WindowWords* words_of_window(std::string_view window) {
   return found == all.end() ? nullptr : &*found;
 }
 
-/// What an entry is looked for in.
+/// What an entry is looked for in: words with a blank before and behind each.
 struct Indexed {
   const MenuEntry* entry;
-  QStringList caption;
-  QStringList others;
+  QString caption;
+  QString others;
 };
+
+QString joined(const QStringList& words) { return ' ' + words.join(' ') + ' '; }
 
 std::vector<Indexed> made_index() {
   std::vector<Indexed> index;
@@ -49,7 +51,7 @@ std::vector<Indexed> made_index() {
       if (const WindowWords* window = words_of_window(entry.window); window != nullptr) {
         others += words_of(window->title) + words_of(window->words);
       }
-      index.push_back({&entry, words_of(entry.caption), others});
+      index.push_back({&entry, joined(words_of(entry.caption)), joined(others)});
     }
   }
   return index;
@@ -66,25 +68,25 @@ constexpr int not_there = 100;
 
 /// How far a word is from being the first that an entry is known by.
 int distance(const QString& word, const Indexed& indexed) {
-  const auto begins = [&word](const QString& other) { return other.startsWith(word); };
-  const auto holds = [&word](const QString& other) { return other.contains(word); };
   // One or two letters begin many words; by themselves they are a unit or a number.
   constexpr qsizetype shortest_beginning = 3;
   constexpr qsizetype shortest_inside = 4;
+  const QString beginning = ' ' + word;
+  const QString whole = beginning + ' ';
   const int of_beginning = word.size() < shortest_beginning ? 2 : 0;
   int least = not_there;
-  const auto consider = [&least](bool is_there, int distance) {
-    least = is_there ? std::min(least, distance) : least;
-  };
-  consider(indexed.caption.contains(word), 0);
-  consider(indexed.others.contains(word), 1);
-  consider(std::ranges::any_of(indexed.caption, begins), of_beginning);
-  consider(std::ranges::any_of(indexed.others, begins), 1 + of_beginning);
-  if (word.size() >= shortest_inside) {
-    consider(std::ranges::any_of(indexed.caption, holds), 4);
-    consider(std::ranges::any_of(indexed.others, holds), 4);
+  if (indexed.caption.contains(beginning)) {
+    least = indexed.caption.contains(whole) ? 0 : of_beginning;
   }
-  return least;
+  if (least > 1 && indexed.others.contains(beginning)) {
+    least = std::min(least, 1 + (indexed.others.contains(whole) ? 0 : of_beginning));
+  }
+  if (least < not_there) {
+    return least;
+  }
+  const bool is_inside = word.size() >= shortest_inside &&
+                         (indexed.caption.contains(word) || indexed.others.contains(word));
+  return is_inside ? 4 : not_there;
 }
 
 }  // namespace
