@@ -2,6 +2,8 @@
 
 #include <QStringList>
 #include <algorithm>
+#include <cstddef>
+#include <string>
 #include <utility>
 
 #include "shell/window_words.h"
@@ -37,11 +39,11 @@ const WindowWords* words_of_window(std::string_view window) {
 /// What an entry is looked for in: words with a blank before and behind each.
 struct Indexed {
   const MenuEntry* entry;
-  QString caption;
-  QString others;
+  std::string caption;
+  std::string others;
 };
 
-QString joined(const QStringList& words) { return ' ' + words.join(' ') + ' '; }
+std::string joined(const QStringList& words) { return ui::from_qt(' ' + words.join(' ') + ' '); }
 
 std::vector<Indexed> made_index() {
   std::vector<Indexed> index;
@@ -64,28 +66,40 @@ QString stem(const QString& word) {
   return is_long ? word.chopped(1) : word;
 }
 
+/// A word as it is looked for: anywhere, at the beginning of another, by itself.
+struct Wanted {
+  explicit Wanted(const QString& word)
+      : inside{ui::from_qt(stem(word))}, beginning{' ' + inside}, whole{beginning + ' '} {}
+
+  std::string inside;
+  std::string beginning;
+  std::string whole;
+};
+
+bool has(const std::string& words, const std::string& wanted) {
+  return words.find(wanted) != std::string::npos;
+}
+
 constexpr int not_there = 100;
 
 /// How far a word is from being the first that an entry is known by.
-int distance(const QString& word, const Indexed& indexed) {
+int distance(const Wanted& word, const Indexed& indexed) {
   // One or two letters begin many words; by themselves they are a unit or a number.
-  constexpr qsizetype shortest_beginning = 3;
-  constexpr qsizetype shortest_inside = 4;
-  const QString beginning = ' ' + word;
-  const QString whole = beginning + ' ';
-  const int of_beginning = word.size() < shortest_beginning ? 2 : 0;
+  constexpr std::size_t shortest_beginning = 3;
+  constexpr std::size_t shortest_inside = 4;
+  const int of_beginning = word.inside.size() < shortest_beginning ? 2 : 0;
   int least = not_there;
-  if (indexed.caption.contains(beginning)) {
-    least = indexed.caption.contains(whole) ? 0 : of_beginning;
+  if (has(indexed.caption, word.beginning)) {
+    least = has(indexed.caption, word.whole) ? 0 : of_beginning;
   }
-  if (least > 1 && indexed.others.contains(beginning)) {
-    least = std::min(least, 1 + (indexed.others.contains(whole) ? 0 : of_beginning));
+  if (least > 1 && has(indexed.others, word.beginning)) {
+    least = std::min(least, 1 + (has(indexed.others, word.whole) ? 0 : of_beginning));
   }
   if (least < not_there) {
     return least;
   }
-  const bool is_inside = word.size() >= shortest_inside &&
-                         (indexed.caption.contains(word) || indexed.others.contains(word));
+  const bool is_inside = word.inside.size() >= shortest_inside &&
+                         (has(indexed.caption, word.inside) || has(indexed.others, word.inside));
   return is_inside ? 4 : not_there;
 }
 
@@ -93,12 +107,14 @@ int distance(const QString& word, const Indexed& indexed) {
 
 std::vector<const MenuEntry*> find_entries(std::string_view text) {
   static const std::vector<Indexed> index = made_index();
-  QStringList words = words_of(text);
-  std::ranges::transform(words, words.begin(), stem);
+  std::vector<Wanted> words;
+  for (const QString& word : words_of(text)) {
+    words.emplace_back(word);
+  }
   std::vector<std::pair<int, const MenuEntry*>> found;
   for (const Indexed& indexed : index) {
     int sum = 0;
-    const bool has_all = std::ranges::all_of(words, [&](const QString& word) {
+    const bool has_all = std::ranges::all_of(words, [&](const Wanted& word) {
       const int away = distance(word, indexed);
       sum += away;
       return away < not_there;

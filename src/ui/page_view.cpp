@@ -206,6 +206,7 @@ PageView::PageView(Parent parent, std::string_view name, std::string_view access
   set_up(*this, name, {});
   setAccessibleName(to_qt(accessible_name));
   setOpenLinks(false);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // pages are set for the width beside it
 }
 
 void PageView::set_size(int width_in_characters, int lines) {
@@ -257,7 +258,7 @@ void PageView::show_page(std::string_view markdown) {
   // Before the view is laid out, the width that it asks for.
   const int width =
       isVisible() ? viewport()->width() : size_.width() - verticalScrollBar()->sizeHint().width();
-  fill(*page, {palette(), devicePixelRatioF(), width - 3 * theme::margin()});
+  fill(*page, {palette(), devicePixelRatioF(), width - 2 * theme::margin()});
   const QPointer<QTextDocument> last = document();
   setDocument(page);
   if (last != nullptr) {  // the view itself destroys only the one that it was made with

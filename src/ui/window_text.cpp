@@ -36,12 +36,21 @@ QString line_of(const ResultTable& table, int row) {
   return cells.join('\t');
 }
 
+/// A prompt may end with a colon of its own.
+QString line_of(const QWidget& box, const QString& content) {
+  QString prompt = box.accessibleName().trimmed();
+  while (prompt.endsWith(':') || prompt.endsWith(' ')) {
+    prompt.chop(1);
+  }
+  return prompt + ": " + content;
+}
+
 QStringList lines_of(const QWidget& window, QWidget& widget) {
   if (const auto* box = qobject_cast<QLineEdit*>(&widget); box != nullptr) {
-    return {box->accessibleName() + ": " + box->text()};
+    return {line_of(*box, box->text())};
   }
   if (const auto* list = qobject_cast<QComboBox*>(&widget); list != nullptr) {
-    return {list->accessibleName() + ": " + list->currentText()};
+    return {line_of(*list, list->currentText())};
   }
   if (const auto* option = qobject_cast<QRadioButton*>(&widget); option != nullptr) {
     return option->isChecked() ? QStringList{option->text()} : QStringList{};
