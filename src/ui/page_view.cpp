@@ -34,7 +34,10 @@ constexpr int formula_source = QTextFormat::UserProperty + 1;
 
 /// Formulas wait as such letters, which no text has, for the Markdown around them to be read.
 constexpr char16_t first_placeholder = 0xE000;
-constexpr char16_t last_placeholder = 0xF8FF;
+const QRegularExpression& placeholders() {
+  static const QRegularExpression letters{QStringLiteral("[\\x{E000}-\\x{F8FF}]")};
+  return letters;
+}
 
 /// Draws formulas within a text.
 class FormulaObject final : public QObject, public QTextObjectInterface {
@@ -102,7 +105,8 @@ Prepared prepare(std::string_view markdown) {
     return QChar{static_cast<char16_t>(first_placeholder + page.formulas.size() - 1)};
   };
   bool is_formula = false;
-  for (QString line : to_qt(markdown).split('\n')) {
+  // Where a text has one after all, as what is searched for may, it goes.
+  for (QString line : to_qt(markdown).remove(placeholders()).split('\n')) {
     if (line.startsWith(QStringLiteral("```"))) {
       is_formula = !is_formula && line == QStringLiteral("```formula");
       if (is_formula || page.markdown.endsWith(QStringLiteral("\n\n\n"))) {
@@ -143,8 +147,8 @@ void insert_formula(QTextCursor& at, const QString& source, bool stands_alone) {
 }
 
 void insert_formulas(QTextDocument& page, const QStringList& formulas) {
-  static const QRegularExpression placeholder{QStringLiteral("[\\x{E000}-\\x{F8FF}]")};
-  for (QTextCursor at = page.find(placeholder); !at.isNull(); at = page.find(placeholder, at)) {
+  for (QTextCursor at = page.find(placeholders()); !at.isNull();
+       at = page.find(placeholders(), at)) {
     const QString& source = formulas[at.selectedText().at(0).unicode() - first_placeholder];
     const bool stands_alone = at.block().text().size() == 1 && at.currentTable() == nullptr;
     insert_formula(at, source, stands_alone);

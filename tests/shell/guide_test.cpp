@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFontMetricsF>
+#include <QLineEdit>
 #include <QPrinter>
 #include <QRegularExpression>
 #include <QScrollBar>
@@ -321,6 +322,13 @@ TEST_F(frmguida, SearchesThePageAndThenAllOfThem) {
   guide.press(Qt::Key_Return);
   EXPECT_EQ(heading_of(guide), "Pagine con «TOROIDE permeabilita»");
   EXPECT_TRUE(view_of(guide).toPlainText().contains("su ferrite"));
+
+  // Nothing that is searched for is taken for a part of the page.
+  for (const char* text : {"\xee\x80\x85", "$a$", "```formula", "| a | b |", "<b>", "\\"}) {
+    dynamic_cast<QLineEdit&>(guide.control("txtcerca")).setText(text);
+    guide.click("cmdtutte");
+    EXPECT_NE(heading_of(guide).find(" con «"), std::string::npos) << heading_of(guide);
+  }
 
   guide.type("txtcerca", "xyzzy");
   guide.click("cmdtutte");
