@@ -105,16 +105,14 @@ Prepared prepare(std::string_view markdown) {
     return QChar{static_cast<char16_t>(first_placeholder + page.formulas.size() - 1)};
   };
   bool is_formula = false;
+  bool is_code = false;
   // Where a text has one after all, as what is searched for may, it goes.
   for (QString line : to_qt(markdown).remove(placeholders()).split('\n')) {
-    if (line.startsWith(QStringLiteral("```"))) {
-      is_formula = !is_formula && line == QStringLiteral("```formula");
-      if (is_formula || page.markdown.endsWith(QStringLiteral("\n\n\n"))) {
-        page.markdown += '\n';
-      }
-      if (is_formula || line == QStringLiteral("```")) {
-        continue;
-      }
+    const bool is_fence = line.startsWith(QStringLiteral("```"));
+    if (is_fence && !is_code && (is_formula || line == QStringLiteral("```formula"))) {
+      is_formula = !is_formula;
+      page.markdown += '\n';
+      continue;
     }
     if (is_formula) {
       if (!line.trimmed().isEmpty()) {
@@ -122,7 +120,9 @@ Prepared prepare(std::string_view markdown) {
       }
       continue;
     }
-    for (auto found = in_text.match(line); found.hasMatch(); found = in_text.match(line)) {
+    is_code = is_code != is_fence;
+    for (auto found = in_text.match(line); found.hasMatch() && !is_code;
+         found = in_text.match(line)) {
       line.replace(found.capturedStart(), found.capturedLength(), placeholder(found.captured(1)));
     }
     page.markdown += line + '\n';
@@ -221,15 +221,7 @@ void PageView::set_size(int width_in_characters, int lines) {
 
 QSize PageView::minimumSizeHint() const { return size_ / 2; }
 
-void PageView::fill(QTextDocument& page, const Look& look) const {
-  const Prepared prepared = prepare(markdown_);
-  page.documentLayout()->registerHandler(formula_object, new FormulaObject{&page});
-  page.setMarkdown(prepared.markdown);
-  QTextCursor edit{&page};
-  edit.beginEditBlock();  // laid out once, not after each of the changes
-  insert_formulas(page, prepared.formulas);
-  dress_tables(page);
-  colour_links(page, look.palette);
+void PageView::place_pictures(QTextDocument& page, const Look& look) const {
   for (QTextBlock block = page.begin(); block.isValid(); block = block.next()) {
     for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
       QTextImageFormat format = piece.fragment().charFormat().toImageFormat();
@@ -250,6 +242,18 @@ void PageView::fill(QTextDocument& page, const Look& look) const {
       break;  // the pieces of the block are others now
     }
   }
+}
+
+void PageView::fill(QTextDocument& page, const Look& look) const {
+  const Prepared prepared = prepare(markdown_);
+  page.documentLayout()->registerHandler(formula_object, new FormulaObject{&page});
+  page.setMarkdown(prepared.markdown);
+  QTextCursor edit{&page};
+  edit.beginEditBlock();  // laid out once, not after each of the changes
+  insert_formulas(page, prepared.formulas);
+  dress_tables(page);
+  colour_links(page, look.palette);
+  place_pictures(page, look);
   edit.endEditBlock();
 }
 

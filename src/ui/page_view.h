@@ -62,6 +62,7 @@ class PageView final : public QTextBrowser {
     int width;  ///< that there is for pictures
   };
   void fill(QTextDocument& page, const Look& look) const;
+  void place_pictures(QTextDocument& page, const Look& look) const;
 
   Pictures pictures_;
   std::string markdown_;

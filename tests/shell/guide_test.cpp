@@ -126,6 +126,9 @@ TEST_F(Handbook, HasAPageForEveryWindowAndNoOther) {
 }
 
 TEST_F(Handbook, LinksToWhatThereIs) {
+  for (const std::string& link : shell::parse_page(shell::page_source("README")).links) {
+    EXPECT_TRUE(QFile::exists(":/guida/" + ui::to_qt(link))) << link;
+  }
   for_each_page([](const std::string& name, const GuidePage& page) {
     for (const std::string& link : page.links) {
       if (link.starts_with("immagini/")) {
