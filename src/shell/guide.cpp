@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <algorithm>
+#include <cstddef>
 #include <memory>
 #include <utility>
 
@@ -56,6 +57,25 @@ std::string table_of(const std::string& block, const QWidget& window) {
   return ui::from_qt(table + '\n');
 }
 
+/// What a page is looked for in: words with a blank before each.
+struct Searched {
+  std::string name;
+  std::string words;
+  std::string title;
+};
+
+std::string joined(std::string_view text) { return ui::from_qt(' ' + words_of(text).join(' ')); }
+
+std::vector<Searched> all_pages() {
+  std::vector<Searched> all;
+  for (const QString& file : QDir{folder}.entryList({'*' + ending})) {
+    const std::string name = ui::from_qt(file.chopped(ending.size()));
+    const std::string source = page_source(name);
+    all.push_back({name, joined(source), joined(parse_page(source).title)});
+  }
+  return all;
+}
+
 }  // namespace
 
 std::string file_name(std::string_view page) {
@@ -87,27 +107,24 @@ std::string page_to_read(std::string_view page) {
 }
 
 std::vector<std::string> find_pages(std::string_view text) {
-  const QStringList wanted = words_of(text);
+  static const std::vector<Searched> all = all_pages();
+  std::vector<std::string> wanted;
+  for (const QString& word : words_of(text)) {
+    wanted.push_back(ui::from_qt(' ' + word));
+  }
   if (wanted.empty()) {
     return {};
   }
-  std::vector<std::pair<qsizetype, std::string>> found;
-  for (const QString& file : QDir{folder}.entryList({'*' + ending})) {
-    const std::string page = ui::from_qt(file.chopped(ending.size()));
-    const std::string source = page_source(page);
-    const QStringList words = words_of(source);
-    const QStringList title = words_of(parse_page(source).title);
-    const auto is_in = [](const QStringList& all) {
-      return [&all](const QString& word) {
-        return std::ranges::any_of(all,
-                                   [&](const QString& other) { return other.startsWith(word); });
-      };
+  std::vector<std::pair<std::ptrdiff_t, std::string>> found;
+  for (const Searched& page : all) {
+    const auto is_in = [](const std::string& words) {
+      return [&words](const std::string& word) { return words.find(word) != std::string::npos; };
     };
-    if (std::ranges::all_of(wanted, is_in(words))) {
-      found.emplace_back(-std::ranges::count_if(wanted, is_in(title)), page);
+    if (std::ranges::all_of(wanted, is_in(page.words))) {
+      found.emplace_back(-std::ranges::count_if(wanted, is_in(page.title)), page.name);
     }
   }
-  std::ranges::stable_sort(found, {}, &std::pair<qsizetype, std::string>::first);
+  std::ranges::stable_sort(found, {}, &std::pair<std::ptrdiff_t, std::string>::first);
   std::vector<std::string> pages;
   pages.reserve(found.size());
   for (auto& [rank, page] : found) {

@@ -140,6 +140,8 @@ class Style final : public QProxyStyle {
     switch (hint) {
       case SH_DialogButtonBox_ButtonsHaveIcons:
         return 0;  // "OK" needs no picture
+      case SH_ScrollBar_ContextMenu:
+        return 0;  // it would hold up all else until it is closed
       default:
         return QProxyStyle::styleHint(hint, option, widget, data);
     }

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QDir>
 #include <QFile>
 #include <QFontMetricsF>
@@ -338,6 +339,15 @@ TEST_F(frmguida, SearchesThePageAndThenAllOfThem) {
   EXPECT_EQ(heading_of(guide), "Nessuna pagina con «xyzzy»");
   guide.click("cmdindice");
   EXPECT_EQ(heading_of(guide), "Indice della guida");
+}
+
+TEST_F(frmguida, IsNotHeldUpByItsScrollBar) {
+  const Driven guide{open("frmguida")};
+  QScrollBar& bar = *view_of(guide).verticalScrollBar();
+  QContextMenuEvent asked{QContextMenuEvent::Mouse, bar.rect().center(),
+                          bar.mapToGlobal(bar.rect().center())};
+  QCoreApplication::sendEvent(&bar, &asked);
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
 
 TEST_F(frmguida, FindsPagesByWhatTheyTell) {
