@@ -33,8 +33,8 @@ constexpr int formula_object = QTextFormat::UserObject + 1;
 constexpr int formula_source = QTextFormat::UserProperty + 1;
 
 /// Formulas wait as such letters, which no text has, for the Markdown around them to be read.
-constexpr char16_t first_placeholder = 0xE000;
-const QRegularExpression& placeholders() {
+constexpr char16_t first_stand_in = 0xE000;
+const QRegularExpression& stand_ins() {
   static const QRegularExpression letters{QStringLiteral("[\\x{E000}-\\x{F8FF}]")};
   return letters;
 }
@@ -96,18 +96,18 @@ struct Prepared {
   QStringList formulas;
 };
 
-/// Takes the formulas out of a page and leaves a placeholder for each.
+/// Takes the formulas out of a page and leaves a letter for each that stands in for it.
 Prepared prepare(std::string_view markdown) {
   static const QRegularExpression in_text{R"(\$([^$\n]+)\$)"};
   Prepared page;
-  const auto placeholder = [&page](const QString& formula) {
+  const auto stand_in = [&page](const QString& formula) {
     page.formulas += formula.trimmed();
-    return QChar{static_cast<char16_t>(first_placeholder + page.formulas.size() - 1)};
+    return QChar{static_cast<char16_t>(first_stand_in + page.formulas.size() - 1)};
   };
   bool is_formula = false;
   bool is_code = false;
   // Where a text has one after all, as what is searched for may, it goes.
-  for (QString line : to_qt(markdown).remove(placeholders()).split('\n')) {
+  for (QString line : to_qt(markdown).remove(stand_ins()).split('\n')) {
     const bool is_fence = line.startsWith(QStringLiteral("```"));
     if (is_fence && !is_code && (is_formula || line == QStringLiteral("```formula"))) {
       is_formula = !is_formula;
@@ -116,14 +116,14 @@ Prepared prepare(std::string_view markdown) {
     }
     if (is_formula) {
       if (!line.trimmed().isEmpty()) {
-        page.markdown += placeholder(line) + QStringLiteral("\n\n");
+        page.markdown += stand_in(line) + QStringLiteral("\n\n");
       }
       continue;
     }
     is_code = is_code != is_fence;
     for (auto found = in_text.match(line); found.hasMatch() && !is_code;
          found = in_text.match(line)) {
-      line.replace(found.capturedStart(), found.capturedLength(), placeholder(found.captured(1)));
+      line.replace(found.capturedStart(), found.capturedLength(), stand_in(found.captured(1)));
     }
     page.markdown += line + '\n';
   }
@@ -147,9 +147,8 @@ void insert_formula(QTextCursor& at, const QString& source, bool stands_alone) {
 }
 
 void insert_formulas(QTextDocument& page, const QStringList& formulas) {
-  for (QTextCursor at = page.find(placeholders()); !at.isNull();
-       at = page.find(placeholders(), at)) {
-    const QString& source = formulas[at.selectedText().at(0).unicode() - first_placeholder];
+  for (QTextCursor at = page.find(stand_ins()); !at.isNull(); at = page.find(stand_ins(), at)) {
+    const QString& source = formulas[at.selectedText().at(0).unicode() - first_stand_in];
     const bool stands_alone = at.block().text().size() == 1 && at.currentTable() == nullptr;
     insert_formula(at, source, stands_alone);
     if (stands_alone) {
