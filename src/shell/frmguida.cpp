@@ -128,8 +128,7 @@ class frmguida final : public ui::Window {
 
   void follow(std::string_view target) {
     if (target.ends_with(page_ending)) {
-      target.remove_suffix(page_ending.size());
-      leave_for({std::string{target}, {}, 0});
+      leave_for({page_in(target), {}, 0});
       txtguida.go_to_next_mark();
     }
   }

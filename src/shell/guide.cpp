@@ -1,7 +1,6 @@
 #include "shell/guide.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
@@ -12,6 +11,7 @@
 
 #include "shell/guide_page.h"
 #include "shell/words.h"
+#include "ui/registry.h"
 #include "ui/text.h"
 #include "ui/window.h"
 #include "ui/window_picture.h"
@@ -82,6 +82,15 @@ std::string file_name(std::string_view page) {
   QString name = ui::to_qt(page).normalized(QString::NormalizationForm_KD);
   name.removeIf([](QChar letter) { return letter.isMark(); });
   return ui::from_qt(name + ending);
+}
+
+std::string page_in(std::string_view file) {
+  for (const std::string& window : ui::registry::names()) {
+    if (file_name(window) == file) {
+      return window;
+    }
+  }
+  return ui::from_qt(ui::to_qt(file).chopped(ending.size()));
 }
 
 bool has_page(std::string_view page) { return QFile::exists(file_of(page)); }

@@ -15,6 +15,9 @@ constexpr std::string_view contents_page = "FRMETERLAB";
 /// The file of a window's page: its name without accents, frmresistivita.md.
 std::string file_name(std::string_view page);
 
+/// The page that a file holds: the window's name with its accents, of the introduction README.
+std::string page_in(std::string_view file);
+
 bool has_page(std::string_view page);
 
 /// The page's source; empty when there is none.

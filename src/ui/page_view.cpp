@@ -1,7 +1,6 @@
 #include "ui/page_view.h"
 
 #include <QAbstractTextDocumentLayout>
-#include <QApplication>
 #include <QEvent>
 #include <QMimeData>
 #include <QPainter>
@@ -184,14 +183,14 @@ void colour_links(QTextDocument& page, const QPalette& palette) {
   }
 }
 
-void dress_tables(QTextDocument& page) {
+void dress_tables(QTextDocument& page, const QPalette& palette) {
   for (QTextFrame* frame : page.rootFrame()->childFrames()) {
     if (auto* table = qobject_cast<QTextTable*>(frame); table != nullptr) {
       QTextTableFormat format = table->format();
       format.setBorderCollapse(true);
       format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
       format.setBorder(1);
-      format.setBorderBrush(QApplication::palette().brush(QPalette::Mid));
+      format.setBorderBrush(palette.brush(QPalette::Mid));
       format.setCellPadding(theme::spacing() / 3.0);
       format.setLeftMargin(2 * theme::margin());
       format.setTopMargin(theme::spacing());
@@ -250,7 +249,7 @@ void PageView::fill(QTextDocument& page, const Look& look) const {
   QTextCursor edit{&page};
   edit.beginEditBlock();  // laid out once, not after each of the changes
   insert_formulas(page, prepared.formulas);
-  dress_tables(page);
+  dress_tables(page, look.palette);
   colour_links(page, look.palette);
   place_pictures(page, look);
   edit.endEditBlock();

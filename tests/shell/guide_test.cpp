@@ -313,6 +313,16 @@ TEST_F(frmguida, FollowsLinksAndComesBackToTheSamePlace) {
   EXPECT_TRUE(is_open("frmrisonanza"));
 }
 
+TEST_F(frmguida, FollowsLinksToAWindowWithAnAccent) {
+  const Driven guide{open("frmguida")};
+  Q_EMIT view_of(guide).anchorClicked(QUrl{"frmresistivita.md"});
+  EXPECT_EQ(heading_of(guide), "Resistività dei metalli");
+  guide.click("cmdapri");
+  EXPECT_TRUE(is_open("frmresistività"));
+  Q_EMIT view_of(guide).anchorClicked(QUrl{"README.md"});
+  EXPECT_EQ(heading_of(guide), "ETERLAB - Guida");
+}
+
 TEST_F(frmguida, SearchesThePageAndThenAllOfThem) {
   const Driven guide{open("frmguida")};
   dynamic_cast<ui::Window&>(guide.window()).turn_to("frmrisonanza");
