@@ -185,10 +185,7 @@ void compare_keystrokes(Table& table) {
   constexpr int strokes = 50;
   const auto bare = open_bare_box();
   const Work type_bare = repeated(strokes, [&] { type_and_take_back(*bare); });
-  const Work paint_bare = repeated(strokes, [&] {
-    type_and_take_back(*bare);
-    settle();
-  });
+  const Work paint_bare = repeated(strokes, [&] { type_and_take_back_in_sight(*bare); });
   struct Slowest {
     std::string box;
     double ratio = 0;
@@ -208,13 +205,9 @@ void compare_keystrokes(Table& table) {
     QLineEdit& box = open_example(live);
     changed.consider(live,
                      ratio(turns, repeated(strokes, [&] { type_and_take_back(box); }), type_bare));
-    painted.consider(live, ratio(turns,
-                                 repeated(strokes,
-                                          [&] {
-                                            type_and_take_back(box);
-                                            settle();
-                                          }),
-                                 paint_bare));
+    painted.consider(
+        live,
+        ratio(turns, repeated(strokes, [&] { type_and_take_back_in_sight(box); }), paint_bare));
     close_all();
   }
   table.title("One keystroke in the slowest box that computes as the user types, to a bare box");
@@ -231,12 +224,7 @@ void compare_finder(Table& table) {
   finder.activateWindow();
   table.title("One key in the finder, to a key in a bare list of as many rows");
   table.line("to the painted list",
-             ratio(turns,
-                   repeated(strokes,
-                            [&] {
-                              type_and_take_back(box);
-                              settle();
-                            }),
+             ratio(turns, repeated(strokes, [&] { type_and_take_back_in_sight(box); }),
                    repeated(strokes, [&] { go_down_and_back(*list); })),
              3);
   close_all();

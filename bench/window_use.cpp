@@ -218,4 +218,11 @@ void type_and_take_back(QLineEdit& box) {
   press(box, Qt::Key_Backspace);
 }
 
+void type_and_take_back_in_sight(QLineEdit& box) {
+  type_digit(box);
+  settle();
+  press(box, Qt::Key_Backspace);
+  settle();
+}
+
 }  // namespace eterlab::bench

@@ -47,5 +47,7 @@ void go_down_and_back(QListWidget& list);
 /// A digit, and the key that takes it back.
 constexpr int strokes_typed = 2;
 void type_and_take_back(QLineEdit& box);
+/// The same, each painted.
+void type_and_take_back_in_sight(QLineEdit& box);
 
 }  // namespace eterlab::bench

@@ -31,7 +31,7 @@ class frmridimensiona final : public ui::Calculator {
   frmridimensiona()
       : Calculator{"frmridimensiona", "RIDIMENSIONA UN'ANTENNA PER UN'ALTRA FREQUENZA",
                    Computes::as_typed} {
-    std::vector<ui::Field> rows{{&corner, &Label1, &Label2}};
+    ui::Fields rows{{&corner, &Label1, &Label2}};
     for (int row = 0; row < txtmisura.size(); ++row) {
       ui::Field line = txtmisura[row];
       line.unit = &lblmisura[row];

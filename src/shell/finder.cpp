@@ -38,22 +38,30 @@ const WindowWords* words_of_window(std::string_view window) {
 
 /// What an entry is looked for in: words with a blank before and behind each.
 struct Indexed {
-  const MenuEntry* entry;
+  FoundEntry found;
   std::string caption;
   std::string others;
 };
 
 std::string joined(const QStringList& words) { return ui::from_qt(' ' + words.join(' ') + ' '); }
 
+std::string told(const MenuEntry& entry, const std::string& path) {
+  const std::string caption = ui::from_qt(ui::to_qt(entry.caption).simplified());
+  return path.empty() ? caption : caption + "   (" + path + ")";
+}
+
 std::vector<Indexed> made_index() {
   std::vector<Indexed> index;
   for (const MenuEntry& entry : menu_catalogue()) {
     if (!entry.is_submenu()) {
-      QStringList others = words_of(path_of(entry));
+      const std::string path = path_of(entry);
+      FoundEntry found{&entry, told(entry, path), {}};
+      QStringList others = words_of(path);
       if (const WindowWords* window = words_of_window(entry.window); window != nullptr) {
+        found.title = window->title;
         others += words_of(window->title) + words_of(window->words);
       }
-      index.push_back({&entry, joined(words_of(entry.caption)), joined(others)});
+      index.push_back({std::move(found), joined(words_of(entry.caption)), joined(others)});
     }
   }
   return index;
@@ -105,13 +113,13 @@ int distance(const Wanted& word, const Indexed& indexed) {
 
 }  // namespace
 
-std::vector<const MenuEntry*> find_entries(std::string_view text) {
+std::vector<const FoundEntry*> find_entries(std::string_view text) {
   static const std::vector<Indexed> index = made_index();
   std::vector<Wanted> words;
   for (const QString& word : words_of(text)) {
     words.emplace_back(word);
   }
-  std::vector<std::pair<int, const MenuEntry*>> found;
+  std::vector<std::pair<int, const FoundEntry*>> found;
   for (const Indexed& indexed : index) {
     int sum = 0;
     const bool has_all = std::ranges::all_of(words, [&](const Wanted& word) {
@@ -120,27 +128,16 @@ std::vector<const MenuEntry*> find_entries(std::string_view text) {
       return away < not_there;
     });
     if (has_all) {
-      found.emplace_back(sum, indexed.entry);
+      found.emplace_back(sum, &indexed.found);
     }
   }
-  std::ranges::stable_sort(found, {}, &std::pair<int, const MenuEntry*>::first);
-  std::vector<const MenuEntry*> entries;
+  std::ranges::stable_sort(found, {}, &std::pair<int, const FoundEntry*>::first);
+  std::vector<const FoundEntry*> entries;
   entries.reserve(found.size());
   for (const auto& [away, entry] : found) {
     entries.push_back(entry);
   }
   return entries;
-}
-
-std::string told(const MenuEntry& entry) {
-  const std::string path = path_of(entry);
-  const std::string caption = ui::from_qt(ui::to_qt(entry.caption).simplified());
-  return path.empty() ? caption : caption + "   (" + path + ")";
-}
-
-std::string_view title_of(const MenuEntry& entry) {
-  const WindowWords* window = words_of_window(entry.window);
-  return window == nullptr ? std::string_view{} : window->title;
 }
 
 }  // namespace eterlab::shell

@@ -21,7 +21,7 @@ class frmcerca final : public ui::Window {
   ui::Note lbltitolo{this, "lbltitolo"};
   ui::ComputeButton cmdapri{this, "cmdapri", "APRI"};
   ui::ExitButton cmdesci{this, "cmdesci"};
-  std::vector<const MenuEntry*> found_;
+  std::vector<const FoundEntry*> found_;
 
  public:
   frmcerca() : Window{"frmcerca", "CERCA"} {
@@ -67,28 +67,29 @@ class frmcerca final : public ui::Window {
   void look() {
     found_ = find_entries(txtcerca.content());
     std::vector<std::string> rows;
-    for (const MenuEntry* entry : found_) {
-      rows.push_back(told(*entry));
+    for (const FoundEntry* found : found_) {
+      rows.push_back(found->told);
     }
     lstcerca.show_rows(rows);
     tell_title();
   }
 
-  [[nodiscard]] const MenuEntry* current() const {
+  [[nodiscard]] const FoundEntry* current() const {
     const int row = lstcerca.current();
     return row < 0 ? nullptr : found_[static_cast<std::size_t>(row)];
   }
 
   void tell_title() {
-    const MenuEntry* entry = current();
-    lbltitolo = entry == nullptr ? "NESSUNA VOCE CON QUESTE PAROLE" : title_of(*entry);
+    const FoundEntry* found = current();
+    lbltitolo = found == nullptr ? "NESSUNA VOCE CON QUESTE PAROLE" : found->title;
   }
 
   void open_current() {
-    if (const MenuEntry* entry = current(); entry != nullptr) {
+    if (const FoundEntry* found = current(); found != nullptr) {
       close();
+      const MenuEntry& entry = *found->entry;
       const bool is_over_modal = QApplication::activeModalWidget() != nullptr;
-      open(entry->window, is_over_modal ? ui::Showing::modal : entry->showing);
+      open(entry.window, is_over_modal ? ui::Showing::modal : entry.showing);
     }
   }
 };

@@ -11,6 +11,8 @@ Button::Button(Parent parent, std::string_view name, std::string_view caption, T
   set_up(*this, name, tip);
 }
 
+Button::~Button() = default;
+
 void Button::set_caption(std::string_view caption) { setText(to_qt(caption)); }
 
 void Button::on_click(const Handler& handler) {
@@ -23,10 +25,14 @@ ComputeButton::ComputeButton(Parent parent, std::string_view name, std::string_v
   setDefault(true);
 }
 
+ComputeButton::~ComputeButton() = default;
+
 ExitButton::ExitButton(Parent parent, std::string_view name, std::string_view caption, Tooltip tip)
     : Button{parent, name, caption, tip} {
   on_click([this] { window()->close(); });
 }
+
+ExitButton::~ExitButton() = default;
 
 DoorButton::DoorButton(Parent parent, std::string_view name, Tooltip tip)
     : Button{parent, name, {}, tip} {
@@ -35,5 +41,7 @@ DoorButton::DoorButton(Parent parent, std::string_view name, Tooltip tip)
   setAccessibleName(toolTip());
   on_click([this] { window()->close(); });
 }
+
+DoorButton::~DoorButton() = default;
 
 }  // namespace eterlab::ui

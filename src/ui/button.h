@@ -10,6 +10,7 @@ namespace eterlab::ui {
 class Button : public QPushButton {
  public:
   Button(Parent parent, std::string_view name, std::string_view caption, Tooltip tip = {});
+  ~Button() override;
 
   void set_caption(std::string_view caption);
   void on_click(const Handler& handler);
@@ -20,6 +21,7 @@ class ComputeButton final : public Button {
  public:
   ComputeButton(Parent parent, std::string_view name, std::string_view caption = "CALCOLA",
                 Tooltip tip = {});
+  ~ComputeButton() override;
 };
 
 /// Closes its window.
@@ -27,12 +29,14 @@ class ExitButton final : public Button {
  public:
   ExitButton(Parent parent, std::string_view name, std::string_view caption = "E S C I",
              Tooltip tip = {});
+  ~ExitButton() override;
 };
 
 /// Closes its window, with the picture of an open door instead of a caption.
 class DoorButton final : public Button {
  public:
   DoorButton(Parent parent, std::string_view name, Tooltip tip);
+  ~DoorButton() override;
 };
 
 }  // namespace eterlab::ui

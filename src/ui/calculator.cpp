@@ -23,6 +23,8 @@ Calculator::Calculator(std::string_view name, std::string_view title, Computes w
   }
 }
 
+Calculator::~Calculator() = default;
+
 void Calculator::load() {
   // Behind the handlers of the window itself, which may change what is asked for.
   const auto react = [this] { Desktop::instance().run([this] { change(); }); };

@@ -25,6 +25,7 @@ class Calculator : public Window {
   };
 
   Calculator(std::string_view name, std::string_view title, Computes when = Computes::on_request);
+  ~Calculator() override;
 
   /// A window that does more than this here does it before.
   void load() override;

@@ -42,6 +42,8 @@ ComboBox::ComboBox(Parent parent, std::string_view name, std::string_view text, 
   setEditText(to_qt(text));
 }
 
+ComboBox::~ComboBox() = default;
+
 void ComboBox::complete() {
   const QString typed = lineEdit()->text().trimmed();
   completions_.clear();

@@ -19,6 +19,7 @@ class ComboBox final : public QComboBox {
  public:
   /// `text` stands in the box until an entry is chosen.
   ComboBox(Parent parent, std::string_view name, std::string_view text, Tooltip tip = {});
+  ~ComboBox() override;
 
   /// Appends an entry, perhaps with a value of its own; what stands in the box stays.
   void add(std::string_view entry, int value = 0);

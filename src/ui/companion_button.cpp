@@ -10,4 +10,6 @@ CompanionButton::CompanionButton(Window& window, std::string_view name, std::str
   });
 }
 
+CompanionButton::~CompanionButton() = default;
+
 }  // namespace eterlab::ui

@@ -21,6 +21,7 @@ class CompanionButton final : public Button {
  public:
   CompanionButton(Window& window, std::string_view name, std::string_view caption,
                   Companion companion);
+  ~CompanionButton() override;
 };
 
 }  // namespace eterlab::ui

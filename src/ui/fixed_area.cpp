@@ -145,6 +145,8 @@ FixedArea::FixedArea(Parent parent, std::string_view name, TwipsSize size, Pictu
   set_up(*this, name, {});
 }
 
+FixedArea::~FixedArea() = default;
+
 void FixedArea::place(QWidget& control, TwipsPoint corner, TwipsSize size) {
   places_->place(control, corner, size);
 }

@@ -23,6 +23,7 @@ class FixedArea final : public QWidget {
   using Picture = std::function<void(QPainter& painter, QSize size)>;
 
   FixedArea(Parent parent, std::string_view name, TwipsSize size, Picture picture = {});
+  ~FixedArea() override;
 
   /// Puts a control at its place, or moves it there from its previous one. It gets the size given,
   /// if that is larger than what it needs. Tab order is the order of the first placing.

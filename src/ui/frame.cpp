@@ -13,6 +13,8 @@ Frame::Frame(Parent parent, std::string_view name, std::string_view title, Toolt
   set_up(*this, name, tip);
 }
 
+Frame::~Frame() = default;
+
 Frame& Frame::arrange(const Item& contents) {
   contents.fill(*this, theme::margin());
   return *this;

@@ -13,6 +13,7 @@ namespace eterlab::ui {
 class Frame final : public QGroupBox {
  public:
   Frame(Parent parent, std::string_view name, std::string_view title = {}, Tooltip tip = {});
+  ~Frame() override;
 
   /// Lays out what stands inside; the frame itself is then an item for its window's layout.
   Frame& arrange(const Item& contents);

@@ -30,6 +30,8 @@ Input::Input(Parent parent, std::string_view name, std::string_view prompt, cons
   *this = traits.holds;
 }
 
+Input::~Input() = default;
+
 Real Input::value() const {
   try {
     return number();
@@ -109,10 +111,12 @@ InputArray::InputArray(Parent parent, std::string_view name,
   }
 }
 
+InputArray::~InputArray() = default;
+
 Input& InputArray::operator[](int index) const { return *inputs_[static_cast<std::size_t>(index)]; }
 
-InputArray::operator std::vector<Field>() const {
-  std::vector<Field> fields;
+InputArray::operator Fields() const {
+  Fields fields;
   std::ranges::transform(inputs_, std::back_inserter(fields),
                          [](const auto& input) -> Field { return *input; });
   return fields;

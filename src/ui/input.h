@@ -41,6 +41,7 @@ class Input final : public TextBox {
   Input(Parent parent, std::string_view name, std::string_view prompt, const Traits& traits);
   Input(Parent parent, std::string_view name, std::string_view prompt)
       : Input{parent, name, prompt, Traits{}} {}
+  ~Input() override;
 
   using TextBox::operator=;
   operator Field() const { return {prompt_.get(), const_cast<Input*>(this), nullptr}; }
@@ -87,10 +88,11 @@ class InputArray {
              const Input::Traits& traits);
   InputArray(Parent parent, std::string_view name, std::initializer_list<std::string_view> prompts)
       : InputArray{parent, name, prompts, Input::Traits{}} {}
+  ~InputArray();
 
   [[nodiscard]] Input& operator[](int index) const;
   [[nodiscard]] int size() const { return static_cast<int>(inputs_.size()); }
-  operator std::vector<Field>() const;
+  operator Fields() const;
   /// Empties all of them.
   void clear() const;
 

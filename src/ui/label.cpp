@@ -33,6 +33,8 @@ Label::Label(Parent parent, std::string_view name, std::string_view text, Toolti
   setText(to_qt(text));
 }
 
+Label::~Label() = default;
+
 Label& Label::operator=(std::string_view new_text) {
   const bool is_new = from_qt(text()) != new_text;
   setText(to_qt(new_text));
@@ -228,5 +230,33 @@ void Label::mouseReleaseEvent(QMouseEvent* event) {
     Desktop::instance().run(click_handler_);
   }
 }
+
+Heading::Heading(Parent parent, std::string_view name, std::string_view text, Tooltip tip)
+    : Label{parent, name, text, tip} {
+  set_role(Role::heading);
+}
+
+Heading::~Heading() = default;
+
+Note::Note(Parent parent, std::string_view name, std::string_view text, Tooltip tip)
+    : Label{parent, name, text, tip} {
+  set_role(Role::note);
+}
+
+Note::~Note() = default;
+
+Result::Result(Parent parent, std::string_view name, std::string_view text, Tooltip tip)
+    : Label{parent, name, text, tip} {
+  set_role(Role::result);
+}
+
+Result::~Result() = default;
+
+Value::Value(Parent drawing, std::string_view name, std::string_view letter, Tooltip tip)
+    : Label{drawing, name, letter, tip}, letter_{letter} {
+  set_role(Role::drawing);
+}
+
+Value::~Value() = default;
 
 }  // namespace eterlab::ui

@@ -24,6 +24,7 @@ class Label : public QLabel {
   // A new text of results and on drawings is announced to screen readers.
 
   Label(Parent parent, std::string_view name, std::string_view text = {}, Tooltip tip = {});
+  ~Label() override;
 
   Label& operator=(std::string_view text);
   [[nodiscard]] std::string content() const;
@@ -94,28 +95,22 @@ class Label : public QLabel {
 
 class Heading final : public Label {
  public:
-  Heading(Parent parent, std::string_view name, std::string_view text = {}, Tooltip tip = {})
-      : Label{parent, name, text, tip} {
-    set_role(Role::heading);
-  }
+  Heading(Parent parent, std::string_view name, std::string_view text = {}, Tooltip tip = {});
+  ~Heading() override;
   using Label::operator=;
 };
 
 class Note final : public Label {
  public:
-  Note(Parent parent, std::string_view name, std::string_view text = {}, Tooltip tip = {})
-      : Label{parent, name, text, tip} {
-    set_role(Role::note);
-  }
+  Note(Parent parent, std::string_view name, std::string_view text = {}, Tooltip tip = {});
+  ~Note() override;
   using Label::operator=;
 };
 
 class Result final : public Label, public Blankable {
  public:
-  Result(Parent parent, std::string_view name, std::string_view text = {}, Tooltip tip = {})
-      : Label{parent, name, text, tip} {
-    set_role(Role::result);
-  }
+  Result(Parent parent, std::string_view name, std::string_view text = {}, Tooltip tip = {});
+  ~Result() override;
   using Label::operator=;
   void blank() override { *this = ""; }
 };
@@ -124,10 +119,8 @@ class Result final : public Label, public Blankable {
 class Value final : public Label, public Blankable {
  public:
   /// Without a result it is empty, or shows a letter.
-  Value(Parent drawing, std::string_view name, std::string_view letter = {}, Tooltip tip = {})
-      : Label{drawing, name, letter, tip}, letter_{letter} {
-    set_role(Role::drawing);
-  }
+  Value(Parent drawing, std::string_view name, std::string_view letter = {}, Tooltip tip = {});
+  ~Value() override;
   using Label::operator=;
   void blank() override { *this = letter_; }
   /// Shows another letter, also when it is blank again.

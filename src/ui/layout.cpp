@@ -16,7 +16,7 @@ namespace eterlab::ui {
 
 namespace {
 
-QVBoxLayout* new_column(const std::vector<Item>& items) {
+QVBoxLayout* new_column(std::span<const Item> items) {
   auto* column = new QVBoxLayout;
   column->setSpacing(theme::spacing() * 2 / 3);
   for (const Item& item : items) {
@@ -89,9 +89,9 @@ void Item::fill(QWidget& container, int margin) const {
   add_to(*outer);
 }
 
-Item column(const std::vector<Item>& items) { return Item{new_column(items)}; }
+Item column(std::span<const Item> items) { return Item{new_column(items)}; }
 
-Item row(std::initializer_list<Item> items) {
+Item row(std::span<const Item> items) {
   auto* row = new QHBoxLayout;
   row->setSpacing(theme::spacing());
   for (const Item& item : items) {
@@ -100,15 +100,15 @@ Item row(std::initializer_list<Item> items) {
   return Item{row};
 }
 
-Item alternatives(std::initializer_list<Item> items) {
+Item alternatives(std::span<const Item> items) {
   auto* place = new QGridLayout;
   for (const Item& item : items) {
-    place->addLayout(new_column({item}), 0, 0);
+    place->addLayout(new_column({&item, 1}), 0, 0);
   }
   return Item{place};
 }
 
-Item buttons(const std::vector<Item>& items) {
+Item buttons(std::span<const Item> items) {
   auto* row = new QHBoxLayout;
   row->addStretch(1);
   for (const Item& item : items) {
@@ -154,7 +154,13 @@ Field field(Label& name, Label& value, Label& unit) {
   return {&name, &value, &unit};
 }
 
-Item form(const std::vector<Field>& fields) {
+void append(Fields& fields, const Field& line) { fields.push_back(line); }
+
+void append(Fields& fields, const Fields& lines) {
+  fields.insert(fields.end(), lines.begin(), lines.end());
+}
+
+Item form(const Fields& fields) {
   auto* grid = new_grid();
   int line = 0;
   for (const Field& field : fields) {

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QWidget>
+#include <array>
 #include <concepts>
-#include <initializer_list>
-#include <type_traits>
+#include <span>
 #include <vector>
 
 class QBoxLayout;
@@ -39,28 +39,28 @@ class Item {
   Place place_ = Place::normal;
 };
 
-Item column(const std::vector<Item>& items);
-Item row(std::initializer_list<Item> items);
+Item column(std::span<const Item> items);
+Item row(std::span<const Item> items);
 /// In one place, where each shows while the others are hidden.
-Item alternatives(std::initializer_list<Item> items);
+Item alternatives(std::span<const Item> items);
 /// The buttons of a window: at its bottom, to the right.
-Item buttons(const std::vector<Item>& items);
+Item buttons(std::span<const Item> items);
 
 template <std::convertible_to<Item>... Items>
 Item column(Items&&... items) {
-  return column(std::vector<Item>{Item{items}...});
+  return column(std::array{Item{items}...});
 }
 template <std::convertible_to<Item>... Items>
 Item row(Items&&... items) {
-  return row({Item{items}...});
+  return row(std::array{Item{items}...});
 }
 template <std::convertible_to<Item>... Items>
 Item alternatives(Items&&... items) {
-  return alternatives({Item{items}...});
+  return alternatives(std::array{Item{items}...});
 }
 template <std::convertible_to<Item>... Items>
 Item buttons(Items&&... items) {
-  return buttons(std::vector<Item>{Item{items}...});
+  return buttons(std::array{Item{items}...});
 }
 
 /// Option buttons side by side; an OptionArray by itself has them one under the other.
@@ -83,22 +83,18 @@ Field field(Label& prompt, ComboBox& box);
 Field field(Label& name, Label& value);
 Field field(Label& name, Label& value, Label& unit);
 
+using Fields = std::vector<Field>;
+void append(Fields& fields, const Field& line);
+void append(Fields& fields, const Fields& lines);
+
 /// Lines of prompts and boxes, aligned.
-Item form(const std::vector<Field>& fields);
+Item form(const Fields& fields);
 /// Of fields, of inputs and lists, which are fields of their own, and of arrays of inputs.
-template <class... Fields>
-Item form(const Fields&... fields) {
-  std::vector<Field> lines;
-  const auto add = [&lines](const auto& line) {
-    if constexpr (std::is_convertible_v<decltype(line), Field>) {
-      lines.push_back(line);
-    } else {
-      const std::vector<Field> several = line;
-      lines.insert(lines.end(), several.begin(), several.end());
-    }
-  };
-  (add(fields), ...);
-  return form(lines);
+template <class... Lines>
+Item form(const Lines&... lines) {
+  Fields fields;
+  (append(fields, lines), ...);
+  return form(fields);
 }
 
 /// One line of a table.

@@ -26,6 +26,8 @@ List::List(Parent parent, std::string_view name, std::string_view prompt,
   }
 }
 
+List::~List() = default;
+
 void List::name_prompt(std::string_view name) { prompt_->setObjectName(to_qt(name)); }
 
 void List::add(std::string_view entry) { addItem(to_qt(entry)); }

@@ -23,6 +23,7 @@ class List final : public QComboBox {
   /// behind it.
   List(Parent parent, std::string_view name, std::string_view prompt,
        std::initializer_list<std::string_view> entries = {}, Tooltip tip = {});
+  ~List() override;
 
   /// Where a window names the prompt otherwise.
   void name_prompt(std::string_view name);

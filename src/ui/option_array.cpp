@@ -18,6 +18,8 @@ Option::Option(Parent parent, std::string_view name, std::string_view caption)
   connect(this, &QRadioButton::clicked, this, [this] { outdate_results(*this); });
 }
 
+Option::~Option() = default;
+
 std::string Option::caption() const { return from_qt(text()); }
 
 OptionArray::OptionArray(Parent parent, std::string_view name,
@@ -32,6 +34,8 @@ OptionArray::OptionArray(Parent parent, std::string_view name,
     ++index;
   }
 }
+
+OptionArray::~OptionArray() = default;
 
 Option& OptionArray::operator[](int index) const {
   QAbstractButton* button = group_.button(index);

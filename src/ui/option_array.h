@@ -16,6 +16,7 @@ namespace eterlab::ui {
 class Option final : public QRadioButton {
  public:
   Option(Parent parent, std::string_view name, std::string_view caption);
+  ~Option() override;
 
   [[nodiscard]] std::string caption() const;
 };
@@ -27,6 +28,7 @@ class OptionArray {
 
   OptionArray(Parent parent, std::string_view name,
               std::initializer_list<std::string_view> captions, int first_index = 0);
+  ~OptionArray();
 
   [[nodiscard]] Option& operator[](int index) const;
   [[nodiscard]] std::vector<Option*> buttons() const;

@@ -121,6 +121,8 @@ Plot::Plot(Parent parent, std::string_view name, Axis x_axis, Axis y_axis, int c
   tell_screen_readers();
 }
 
+Plot::~Plot() = default;
+
 QSize Plot::sizeHint() const {
   return {static_cast<int>(std::ceil(columns_ * grid_step())),
           static_cast<int>(std::ceil(rows_ * grid_step()))};

@@ -23,6 +23,7 @@ class Plot final : public QWidget, public Blankable {
 
   Plot(Parent parent, std::string_view name, Axis x_axis, Axis y_axis, int columns = 48,
        int rows = 30, Tooltip tip = {});
+  ~Plot() override;
 
   /// A function over a domain, which is not empty and on a logarithmic axis above zero. It is asked
   /// for its values now; a fault leaves a gap. Those with a name are told apart by a legend.

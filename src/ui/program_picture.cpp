@@ -16,4 +16,6 @@ ProgramPicture::ProgramPicture(Parent parent, std::string_view name) : QLabel{pa
   setPixmap(picture);
 }
 
+ProgramPicture::~ProgramPicture() = default;
+
 }  // namespace eterlab::ui

@@ -11,6 +11,7 @@ namespace eterlab::ui {
 class ProgramPicture final : public QLabel {
  public:
   ProgramPicture(Parent parent, std::string_view name);
+  ~ProgramPicture() override;
 };
 
 }  // namespace eterlab::ui

@@ -92,6 +92,8 @@ ResultTable::ResultTable(Parent parent, std::string_view name, int rows,
   grid_->setColumnStretch(columns_ + 1, 1);
 }
 
+ResultTable::~ResultTable() = default;
+
 Label& ResultTable::at(int row, int column) const {
   const int index = row * columns_ + column;
   return *cells_[static_cast<std::size_t>(index)];

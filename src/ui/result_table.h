@@ -33,6 +33,7 @@ class ResultTable final : public QWidget {
 
   ResultTable(Parent parent, std::string_view name, int rows,
               std::initializer_list<Column> columns);
+  ~ResultTable() override;
 
   /// A cell, by its row and column.
   [[nodiscard]] Label& at(int row, int column) const;

@@ -18,6 +18,7 @@ class RowList final : public QListWidget {
   /// In a layout; its prompt names it for screen readers.
   RowList(Parent parent, std::string_view name, Label& prompt, int rows_in_sight,
           int width_in_characters);
+  ~RowList() override;
 
   /// In place of what was listed; the first becomes current.
   void show_rows(const std::vector<std::string>& rows);

@@ -79,6 +79,8 @@ Schematic::Schematic(Parent parent, std::string_view name, int columns, int rows
   setFixedSize(sizeHint());
 }
 
+Schematic::~Schematic() = default;
+
 QSize Schematic::sizeHint() const {
   return {static_cast<int>(std::ceil(columns_ * grid_step())),
           static_cast<int>(std::ceil(rows_ * grid_step()))};

@@ -24,6 +24,7 @@ class Schematic final : public QWidget {
   enum class Side : std::uint8_t { centre, above, below, left, right };
 
   Schematic(Parent parent, std::string_view name, int columns, int rows, Tooltip tip = {});
+  ~Schematic() override;
 
   // Lines
   Schematic& wire(const std::vector<At>& corners);

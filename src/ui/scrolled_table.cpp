@@ -53,6 +53,8 @@ ScrolledTable::ScrolledTable(Parent parent, std::string_view name, const Row& he
                horizontalHeader()->sizeHint().height() + rows_in_sight * row_height + frame);
 }
 
+ScrolledTable::~ScrolledTable() = default;
+
 void ScrolledTable::select(int row) {
   if (row < 0) {
     clearSelection();

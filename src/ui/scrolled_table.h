@@ -17,6 +17,7 @@ class ScrolledTable final : public QTableWidget {
 
   ScrolledTable(Parent parent, std::string_view name, const Row& heads,
                 const std::vector<Row>& rows, int rows_in_sight);
+  ~ScrolledTable() override;
 
   /// Selects one row, in sight; none for -1.
   void select(int row);

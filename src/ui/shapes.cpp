@@ -55,12 +55,6 @@ bool is_curve(Shapes::Look look) {
   return look >= Shapes::Look::curve && look <= Shapes::Look::dash_dotted_curve;
 }
 
-QColor mixed(const QColor& ground, const QColor& ink, double share) {
-  const auto channel = [share](int from, int to) { return qRound(from + (to - from) * share); };
-  return {channel(ground.red(), ink.red()), channel(ground.green(), ink.green()),
-          channel(ground.blue(), ink.blue())};
-}
-
 /// Of a screen. Straight lines cover whole ones, so that they are even and sharp. What is recorded
 /// for a printer has no pixels yet.
 class Pixels {
@@ -122,7 +116,7 @@ void Shapes::paint(QPainter& painter, const QPalette& palette) const {
   };
   const QColor window = palette.color(QPalette::Window);
   const QColor ink = palette.color(QPalette::WindowText);
-  const QColor tint = mixed(window, ink, tint_share);
+  const QColor tint = theme::mixed(window, ink, tint_share);
   const auto set_style = [&](Look look) {
     const Style& style = styles()[static_cast<std::size_t>(look)];
     QPen pen{look == Look::faint_line ? tint : ink, in_pixels(style.pen), Qt::SolidLine, style.cap,

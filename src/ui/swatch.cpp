@@ -36,6 +36,8 @@ Swatch::Swatch(Parent parent, std::string_view name, std::string_view colours)
   setFixedSize(sizeHint());
 }
 
+Swatch::~Swatch() = default;
+
 QSize Swatch::sizeHint() const {
   const int line = theme::spacing();
   return {line * 2, line * 3 / 4};

@@ -15,6 +15,7 @@ class Swatch final : public QWidget {
  public:
   /// Colours of the code of IEC 60062 by their Italian names, with " + " between: "ROSSO + VIOLA".
   Swatch(Parent parent, std::string_view name, std::string_view colours);
+  ~Swatch() override;
 
   [[nodiscard]] QSize sizeHint() const override;
 

@@ -60,6 +60,8 @@ class Bubble final : public QWidget {
 
 }  // namespace
 
+PointLineEdit::~PointLineEdit() = default;
+
 void PointLineEdit::keyPressEvent(QKeyEvent* event) {
   if (is_keypad_decimal(*event) && !isReadOnly()) {
     insert(".");
@@ -77,6 +79,8 @@ TextBox::TextBox(Parent parent, std::string_view name, Tooltip tip)
   connect(this, &QLineEdit::textChanged, this, &TextBox::tell_what_is_read);
   connect(this, &QLineEdit::textEdited, this, [this] { outdate_results(*this); });
 }
+
+TextBox::~TextBox() = default;
 
 TextBox& TextBox::operator=(std::string_view text) {
   setText(to_qt(text));

@@ -16,6 +16,7 @@ namespace eterlab::ui {
 class PointLineEdit : public QLineEdit {
  public:
   using QLineEdit::QLineEdit;
+  ~PointLineEdit() override;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -27,6 +28,7 @@ class PointLineEdit : public QLineEdit {
 class TextBox : public PointLineEdit {
  public:
   TextBox(Parent parent, std::string_view name, Tooltip tip = {});
+  ~TextBox() override;
 
   /// Replaces the text; an edit like any other, so the change handler runs if it differs.
   TextBox& operator=(std::string_view text);

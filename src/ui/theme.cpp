@@ -31,6 +31,11 @@ constexpr Colour not_read{0xc8, 0x50, 0x00};  // the edge of a box that holds mo
 constexpr int outline_alpha = 150;
 constexpr int frame_alpha = 60;
 
+/// Shares of the colour of text in the parts of a scroll bar.
+constexpr double groove_share = 0.1;
+constexpr double slider_share = 0.45;
+constexpr double held_slider_share = 0.65;
+
 bool is_dark(const QColor& ground) { return ground.lightness() < 128; }
 
 QColor text_colour_at(int alpha, const QPalette& palette) {
@@ -66,13 +71,14 @@ class Style final : public QProxyStyle {
       flat.palette.setBrush(QPalette::Base, frame->palette.window());
       QProxyStyle::drawPrimitive(element, &flat, painter, widget);
     } else if (element == PE_FrameLineEdit && frame != nullptr) {
-      const QStyleOptionFrame visible = with_visible_outline(*frame);
-      QProxyStyle::drawPrimitive(element, &visible, painter, widget);
       const auto* text_box = dynamic_cast<const TextBox*>(widget);
       if (text_box != nullptr && text_box->has_unread_text()) {
         draw_edge(*painter, frame->rect, to_qt_colour(legible(not_read, window_of(*option))));
       } else if (frame->state.testFlag(State_HasFocus)) {
         draw_edge(*painter, frame->rect, frame->palette.color(QPalette::Highlight));
+      } else {
+        const QStyleOptionFrame visible = with_visible_outline(*frame);
+        QProxyStyle::drawPrimitive(element, &visible, painter, widget);
       }
     } else if (element == PE_PanelButtonCommand) {
       QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -94,6 +100,9 @@ class Style final : public QProxyStyle {
     if (control == CC_ComboBox && combo != nullptr) {
       const QStyleOptionComboBox visible = with_visible_outline(*combo);
       QProxyStyle::drawComplexControl(control, &visible, painter, widget);
+    } else if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+               bar != nullptr && control == CC_ScrollBar) {
+      draw_scroll_bar(*bar, *painter, widget);
     } else {
       QProxyStyle::drawComplexControl(control, option, painter, widget);
     }
@@ -163,6 +172,36 @@ class Style final : public QProxyStyle {
     painter.drawRoundedRect(QRectF{rect}.adjusted(width / 2, width / 2, -width / 2, -width / 2),
                             corner_radius, corner_radius);
     painter.restore();
+  }
+
+  /// Flat and opaque: to shade a tall one line by line takes longer than the rows beside it.
+  void draw_scroll_bar(const QStyleOptionSlider& bar, QPainter& painter,
+                       const QWidget* widget) const {
+    constexpr int margin = 3;
+    const bool is_upright = bar.orientation == Qt::Vertical;
+    const auto fill = [&](const QRect& part, double share) {
+      painter.fillRect(part, mixed(window_of(bar), bar.palette.color(QPalette::WindowText), share));
+    };
+    fill(bar.rect, groove_share);
+    if (bar.state.testFlag(State_Enabled)) {
+      const bool is_held = bar.activeSubControls.testFlag(SC_ScrollBarSlider);
+      const QRect slider = subControlRect(CC_ScrollBar, &bar, SC_ScrollBarSlider, widget);
+      fill(is_upright ? slider.adjusted(margin, 0, -margin, 0)
+                      : slider.adjusted(0, margin, 0, -margin),
+           is_held ? held_slider_share : slider_share);
+    }
+    draw_arrow(bar, SC_ScrollBarSubLine, is_upright ? PE_IndicatorArrowUp : PE_IndicatorArrowLeft,
+               painter, widget);
+    draw_arrow(bar, SC_ScrollBarAddLine,
+               is_upright ? PE_IndicatorArrowDown : PE_IndicatorArrowRight, painter, widget);
+  }
+
+  void draw_arrow(QStyleOptionSlider bar, SubControl end, PrimitiveElement arrow, QPainter& painter,
+                  const QWidget* widget) const {
+    constexpr int margin = 4;
+    bar.rect =
+        subControlRect(CC_ScrollBar, &bar, end, widget).adjusted(margin, margin, -margin, -margin);
+    drawPrimitive(arrow, &bar, &painter, widget);
   }
 
   static void draw_frame(const QStyleOption& option, QPainter& painter, const QGroupBox& box) {
@@ -247,6 +286,12 @@ Colour legible(Colour colour, const QColor& ground) {
   lighter.setHslF(lighter.hslHueF(), lighter.hslSaturationF(),
                   std::max(lighter.lightnessF(), readable_lightness));
   return {lighter.red(), lighter.green(), lighter.blue()};
+}
+
+QColor mixed(const QColor& ground, const QColor& ink, double share) {
+  const auto channel = [share](int from, int to) { return qRound(from + (to - from) * share); };
+  return {channel(ground.red(), ink.red()), channel(ground.green(), ink.green()),
+          channel(ground.blue(), ink.blue())};
 }
 
 QFont font_of(Label::Role role) {

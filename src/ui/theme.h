@@ -26,6 +26,9 @@ QPalette paper_palette();
 /// A colour of the design as it can be read on a ground: itself on a light one, lighter on a dark.
 Colour legible(Colour colour, const QColor& ground);
 
+/// A share of ink, from 0 to 1, in the colour of the ground.
+QColor mixed(const QColor& ground, const QColor& ink, double share);
+
 QFont font_of(Label::Role role);
 
 /// A font family of the design or, where that is not installed, what stands for it. The toolkit

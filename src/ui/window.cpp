@@ -38,6 +38,8 @@ Window::Window(std::string_view name, std::string_view title) {
   add_keys_of_every_window(*this);
 }
 
+Window::~Window() = default;
+
 void Window::bring_forward() {
   if (isMinimized()) {
     showNormal();

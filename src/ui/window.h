@@ -25,6 +25,7 @@ class TextBox;
 class Window : public QWidget {
  public:
   Window(std::string_view name, std::string_view title);
+  ~Window() override;
 
   /// Runs once, when the window has been created and laid out and is not shown yet.
   virtual void load() {}

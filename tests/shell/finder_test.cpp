@@ -13,8 +13,8 @@ namespace {
 
 std::vector<std::string_view> windows_found(std::string_view text) {
   std::vector<std::string_view> windows;
-  for (const shell::MenuEntry* entry : shell::find_entries(text)) {
-    windows.push_back(entry->window);
+  for (const shell::FoundEntry* found : shell::find_entries(text)) {
+    windows.push_back(found->entry->window);
   }
   return windows;
 }
