@@ -77,15 +77,8 @@ class frmfinale_antenna final : public MatchingWindow {
     constexpr ui::At output_capacitance{20, line_y};
     constexpr ui::At shunt{42, line_y};
     constexpr ui::At antenna{64, line_y};
-    constexpr ui::Transistor final_stage{{10, 21}};
     draw_supply(drawing, collector, "Z RF", lblzrf, "");
-    drawing.junction(collector)
-        .wire({collector, final_stage.collector})
-        .npn(final_stage)
-        .wire({{3, final_stage.base.y}, final_stage.base})
-        .terminal({3, final_stage.base.y})
-        .wire({final_stage.emitter, {final_stage.emitter.x, ground_y}})
-        .ground({final_stage.emitter.x, ground_y});
+    draw_final_stage(drawing, collector, ground_y);
     // Dashed: it is inside the transistor.
     drawing.wire({collector, output_capacitance})
         .junction(output_capacitance)

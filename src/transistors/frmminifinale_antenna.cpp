@@ -73,15 +73,8 @@ class frmminifinale_antenna final : public MatchingWindow {
     constexpr ui::At input{27, line_y};
     constexpr ui::At output{44, line_y};
     constexpr ui::At antenna{60, line_y};
-    constexpr ui::Transistor final_stage{{10, 21}};
     draw_supply(drawing, collector, "Z RF", lblzrf, "100 nF");
-    drawing.junction(collector)
-        .wire({collector, final_stage.collector})
-        .npn(final_stage)
-        .wire({{3, final_stage.base.y}, final_stage.base})
-        .terminal({3, final_stage.base.y})
-        .wire({final_stage.emitter, {final_stage.emitter.x, ground_y}})
-        .ground({final_stage.emitter.x, ground_y});
+    draw_final_stage(drawing, collector, ground_y);
     drawing.capacitor(collector, input)
         .named("C3", lblc3)
         .junction(input)

@@ -46,4 +46,17 @@ void MatchingWindow::draw_supply(ui::Schematic& drawing, ui::At node, std::strin
       .ground({capacitor_x, capacitor_bottom_y});
 }
 
+void MatchingWindow::draw_final_stage(ui::Schematic& drawing, ui::At collector, double ground_y) {
+  const ui::Transistor stage{{collector.x - 1, collector.y + 5.5}};
+  const ui::At input{3, stage.base.y};
+  const ui::At ground{stage.emitter.x, ground_y};
+  drawing.junction(collector)
+      .wire({collector, stage.collector})
+      .npn(stage)
+      .wire({input, stage.base})
+      .terminal(input)
+      .wire({stage.emitter, ground})
+      .ground(ground);
+}
+
 }  // namespace eterlab::transistors

@@ -28,6 +28,8 @@ class MatchingWindow : public ui::Calculator {
   /// ground.
   static void draw_supply(ui::Schematic& drawing, ui::At node, std::string_view coil_name,
                           ui::Value& coil, std::string_view capacitor);
+  /// A transistor under the node of its collector, driven from the left, its emitter on ground.
+  static void draw_final_stage(ui::Schematic& drawing, ui::At collector, double ground_y);
 
  private:
   ui::CompanionButton cmdchiamabobine;

@@ -93,8 +93,8 @@ class Surroundings : public WindowTest {
 };
 
 TEST_F(Surroundings, AMegabyteInABoxOfEveryWindow) {
-  // How long it takes is for the program as it is used to tell.
-  constexpr int many = ETERLAB_SANITIZED ? megabyte / 16 : megabyte;
+  // Under the sanitizers the toolkit takes time with the square of the letters.
+  constexpr int many = ETERLAB_SANITIZED ? megabyte / 64 : megabyte;
   for (const std::string& window : windows()) {
     expect_alike(window, "7" + QString{many, 'x'}, "7x");
   }

@@ -40,6 +40,14 @@ TEST(Finder, FindsByEverydayWords) {
       {"pollici", "frmmisureinglesi"},
       {"forcina", "frmhairpin"},
       {"s-meter vhf", "frmsmetervhf"},
+      {"dipolo 40 metri", "frmdipoli"},
+      {"trappole 40 80", "frmantmultigamma"},
+      {"end fed", "frmreteadattamento"},
+      {"gp", "frmgpgamma"},
+      {"erp", "frmERP"},
+      {"t50", "frmamidon"},
+      {"filo smaltato", "frmawg"},
+      {"roswattmetro", "frmros"},
   };
   for (const auto& [typed, window] : table) {
     const auto found = windows_found(typed);
