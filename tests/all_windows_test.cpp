@@ -115,10 +115,13 @@ TEST_F(AllWindows, BeginInTheirFirstInputAndGoOnInReadingOrder) {
     }
     const auto* first_box = window.findChild<QLineEdit*>();
     if (first_box != nullptr && first_box->isVisible()) {
+      const auto* box = qobject_cast<const QLineEdit*>(window.focusWidget());
       // A combo box has the focus in place of its line edit.
-      const QWidget* focused = window.focusWidget();
-      EXPECT_TRUE(qobject_cast<const QLineEdit*>(focused) != nullptr ||
-                  qobject_cast<const QComboBox*>(focused) != nullptr);
+      if (const auto* list = qobject_cast<const QComboBox*>(window.focusWidget())) {
+        box = list->lineEdit();
+      }
+      ASSERT_NE(box, nullptr);
+      EXPECT_EQ(box->selectedText(), box->text());
     }
   });
 }

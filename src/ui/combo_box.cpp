@@ -18,6 +18,9 @@ namespace {
 constexpr int entries_in_sight = 20;
 constexpr int completions_in_sight = 10;
 
+/// "rg58" is "RG 58".
+QString without_blanks(QString text) { return text.remove(' '); }
+
 }  // namespace
 
 ComboBox::ComboBox(Parent parent, std::string_view name, std::string_view text, Tooltip tip)
@@ -45,10 +48,10 @@ ComboBox::ComboBox(Parent parent, std::string_view name, std::string_view text, 
 ComboBox::~ComboBox() = default;
 
 void ComboBox::complete() {
-  const QString typed = lineEdit()->text().trimmed();
+  const QString typed = without_blanks(lineEdit()->text());
   completions_.clear();
   for (int index = 0; index < count() && !typed.isEmpty(); ++index) {
-    if (itemText(index).contains(typed, Qt::CaseInsensitive)) {
+    if (without_blanks(itemText(index)).contains(typed, Qt::CaseInsensitive)) {
       completions_.push_back(index);
     }
   }
@@ -88,6 +91,7 @@ void ComboBox::take_completion() {
   hide_completions();
   if (row >= 0) {
     choose(completions_[static_cast<std::size_t>(row)]);
+    lineEdit()->selectAll();  // what is typed next looks for another
   }
 }
 

@@ -12,9 +12,9 @@ namespace eterlab::ui {
 class RowList;
 
 /// A drop-down list under a box that can also be typed in. Typing lists the entries that have the
-/// letters in them, and chooses nothing: only an entry picked from either list, by mouse, cursor
-/// keys or Enter, counts as chosen, also when it is the one already shown. Any other text gives way
-/// to that of the last choice when the focus goes.
+/// letters in them, whatever blanks are between, and chooses nothing: only an entry picked from
+/// either list, by mouse, cursor keys or Enter, counts as chosen, also when it is the one already
+/// shown. Any other text gives way to that of the last choice when the focus goes.
 class ComboBox final : public QComboBox {
  public:
   /// `text` stands in the box until an entry is chosen.

@@ -227,9 +227,10 @@ void Window::showEvent(QShowEvent* event) {
 
 void Window::focus_first_input() {
   for (QWidget* at = nextInFocusChain(); at != this; at = at->nextInFocusChain()) {
-    const auto* box = qobject_cast<QLineEdit*>(at);
+    auto* box = qobject_cast<QLineEdit*>(at);
     if (box != nullptr && !box->isReadOnly() && box->isVisibleTo(this)) {
-      at->setFocus();
+      box->setFocus();
+      box->selectAll();
       return;
     }
   }

@@ -72,7 +72,10 @@ TEST_F(ComboBox, TypingListsWhatEnterOrAClickThenChooses) {
   driven.press(Qt::Key_Return);
   EXPECT_EQ(choices, Choices{3});
   EXPECT_EQ(box.content(), "tre");
+  EXPECT_EQ(box.lineEdit()->selectedText(), "tre") << "what is typed next looks for another";
   EXPECT_FALSE(list->isVisible());
+  driven.type("box", "D u");
+  EXPECT_EQ(list->count(), 2);
   driven.type("box", "u");
   driven.press(Qt::Key_Down);
   driven.press(Qt::Key_Down);
