@@ -53,6 +53,7 @@ QImage in_few_colours(const QImage& picture) {
     }
   }
   std::vector<std::pair<int, QRgb>> by_count;
+  by_count.reserve(count_of.size());
   for (const auto& [colour, count] : count_of) {
     by_count.emplace_back(-count, colour);
   }

@@ -1,3 +1,5 @@
+#include <QEvent>
+
 #include "shell/landscape.h"
 #include "shell/menu_catalogue.h"
 #include "shell/product.h"

@@ -123,7 +123,7 @@ class Typesetter {
     return box;
   }
 
-  Box letters(const QString& text, bool slanted) const {
+  [[nodiscard]] Box letters(const QString& text, bool slanted) const {
     QFont font = font_;
     font.setItalic(slanted);
     const QFontMetricsF metrics{font};
@@ -165,6 +165,7 @@ class Typesetter {
 
   Box in_a_row(const std::vector<Formula>& parts) {
     std::vector<Box> boxes;
+    boxes.reserve(parts.size());
     for (const Formula& part : parts) {
       boxes.push_back(set(part));
     }
@@ -221,7 +222,7 @@ class Typesetter {
     return power(set(base), small([&] { return set(without_parentheses(exponent)); }));
   }
 
-  Box power(Box all, const Box& raised) const {
+  [[nodiscard]] Box power(Box all, const Box& raised) const {
     const double least = em_ * 0.38;
     const double up = std::max(least, all.ascent - em_ * 0.3) + raised.descent;
     put(all, raised, all.width + em_ * 0.03, -up);

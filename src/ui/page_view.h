@@ -52,7 +52,7 @@ class PageView final : public QTextBrowser {
 
  protected:
   QVariant loadResource(int type, const QUrl& name) override;
-  QMimeData* createMimeDataFromSelection() const override;
+  [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
   void changeEvent(QEvent* event) override;
 
  private:

@@ -147,10 +147,9 @@ class Style final : public QProxyStyle {
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override {
     switch (hint) {
-      case SH_DialogButtonBox_ButtonsHaveIcons:
-        return 0;  // "OK" needs no picture
-      case SH_ScrollBar_ContextMenu:
-        return 0;  // it would hold up all else until it is closed
+      case SH_DialogButtonBox_ButtonsHaveIcons:  // "OK" needs no picture
+      case SH_ScrollBar_ContextMenu:             // it would hold up all else until it is closed
+        return 0;
       default:
         return QProxyStyle::styleHint(hint, option, widget, data);
     }

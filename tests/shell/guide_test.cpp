@@ -46,7 +46,7 @@ std::string path_of(const shell::MenuEntry& entry) {
   std::string_view parent = entry.parent;
   for (const auto all = shell::menu_catalogue(); !parent.empty();) {
     const auto menu = std::ranges::find(all, parent, &shell::MenuEntry::name);
-    path = simplified(menu->caption) + " → " + path;
+    path.insert(0, simplified(menu->caption) + " → ");
     parent = menu->parent;
   }
   return path;

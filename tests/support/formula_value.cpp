@@ -254,8 +254,8 @@ std::optional<Value> FormulaValues::sum_of(const Formula& formula) const {
   }
   FormulaValues within = *this;
   Value sum = 0;
-  for (double n = *first; n <= *last; ++n) {
-    within.know(key_of(formula.parts[0].parts[0]), n);
+  for (int step = 0; *first + step <= *last; ++step) {
+    within.know(key_of(formula.parts[0].parts[0]), *first + step);
     const auto summand = within.value(formula.parts[2]);
     if (!summand) {
       return std::nullopt;
