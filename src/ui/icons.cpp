@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
@@ -45,11 +46,7 @@ void draw_open_door(QPainter& painter) {
   painter.drawPath(path);
 }
 
-}  // namespace
-
-int icon_size() { return qRound(drawn_size * theme::font_scale()); }
-
-QIcon program_icon() {
+QIcon stored_icon() {
   QIcon icon;
   const QDir sizes{":/icons"};
   for (const QString& file : sizes.entryList()) {
@@ -57,6 +54,40 @@ QIcon program_icon() {
   }
   return icon;
 }
+
+/// Reads its pictures when the first of them is asked for, which not every desktop does.
+class StoredIcon final : public QIconEngine {
+ public:
+  QList<QSize> availableSizes(QIcon::Mode mode, QIcon::State state) override {
+    return icon().availableSizes(mode, state);
+  }
+  QSize actualSize(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    return icon().actualSize(size, mode, state);
+  }
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    return icon().pixmap(size, 1, mode, state);
+  }
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
+    icon().paint(painter, rect, Qt::AlignCenter, mode, state);
+  }
+  [[nodiscard]] QIconEngine* clone() const override { return new StoredIcon{*this}; }
+
+ private:
+  [[nodiscard]] const QIcon& icon() {
+    if (icon_.isNull()) {
+      icon_ = stored_icon();
+    }
+    return icon_;
+  }
+
+  QIcon icon_;
+};
+
+}  // namespace
+
+int icon_size() { return qRound(drawn_size * theme::font_scale()); }
+
+QIcon program_icon() { return QIcon{new StoredIcon}; }
 
 QIcon open_door_icon() {
   const double scale = qApp->devicePixelRatio();  // of the finest screen
