@@ -11,7 +11,7 @@ namespace eterlab::shell {
 
 namespace {
 
-constexpr std::array<std::string_view, 6> paragraphs{
+constexpr std::array<std::string_view, 5> paragraphs{
     "ETERLAB è un prontuario di calcolo per radioamatori e appassionati di elettronica: bobine, "
     "antenne, linee, filtri, alimentatori. Si sceglie un calcolo dal menù, si scrivono due o tre "
     "numeri e si legge il risultato.",
@@ -23,19 +23,31 @@ constexpr std::array<std::string_view, 6> paragraphs{
     "frecce e le prime lettere della voce, oppure con Ctrl+F e le parole che si ricordano.",
     "Un risultato si copia selezionandolo con il mouse e premendo Ctrl+C, oppure con il tasto "
     "destro, che copia anche il solo numero, scritto come lo vogliono le caselle. Le finestre con "
-    "il pulsante STAMPA SCHEDA si stampano così come sono sulla stampante predefinita.",
-    "I tasti: F10 apre i menù della finestra principale. In ogni finestra F1 apre la guida, con "
-    "la formula e la sua fonte, Ctrl+F o F3 cerca un calcolo, F6 passa al risultato seguente, "
-    "Ctrl+P stampa la finestra, Ctrl+Maiusc+C ne copia tutti i dati e i risultati."};
+    "il pulsante STAMPA SCHEDA si stampano così come sono sulla stampante predefinita."};
+
+struct Key {
+  std::string_view name;
+  std::string_view effect;
+};
+constexpr std::array<Key, 6> keys{
+    {{"F10", "apre i menù della finestra principale"},
+     {"F1", "apre la guida alla pagina della finestra, con la formula e la sua fonte"},
+     {"Ctrl+F, F3", "cerca un calcolo"},
+     {"F6", "passa al risultato seguente"},
+     {"Ctrl+P", "stampa la finestra"},
+     {"Ctrl+Maiusc+C", "copia tutti i dati e i risultati della finestra"}}};
 
 // What a new user needs, on one page, and the licence behind it.
 class frmabaut final : public ui::Window {
   static constexpr int about_program = static_cast<int>(paragraphs.size());
+  static constexpr int number_of_keys = static_cast<int>(keys.size());
 
   ui::ProgramPicture picture{this, "picture"};
   ui::Label lbltitolo{this, "lbltitolo", title};
   ui::Label lblversione{this, "lblversione", edition};
   ui::LabelArray lbltesto{this, "lbltesto", about_program + 1};
+  ui::LabelArray lbltasto{this, "lbltasto", number_of_keys};
+  ui::LabelArray lbleffetto{this, "lbleffetto", number_of_keys};
   ui::Label lbllicenza{this, "lbllicenza", licence};
   ui::Button cmdlicenza{this, "cmdlicenza", "LICENZA"};
   ui::ExitButton cmdchiudi{this, "cmdchiudi", "CHIUDI"};
@@ -45,6 +57,9 @@ class frmabaut final : public ui::Window {
     lbltitolo.set_font("Times New Roman", 20.25, QFont::Bold);
     std::vector<ui::Item> texts;
     for (int index = 0; index <= about_program; ++index) {
+      if (index == about_program) {
+        texts.push_back(list_of_keys());
+      }
       lbltesto[index] = index < about_program
                             ? std::string{paragraphs[static_cast<std::size_t>(index)]}
                             : of_program();
@@ -62,6 +77,17 @@ class frmabaut final : public ui::Window {
   }
 
  private:
+  ui::Item list_of_keys() {
+    ui::Fields lines;
+    for (int index = 0; index < number_of_keys; ++index) {
+      const Key& key = keys[static_cast<std::size_t>(index)];
+      lbltasto[index] = key.name;
+      lbleffetto[index] = key.effect;
+      lines.push_back(field(lbltasto[index], lbleffetto[index]));
+    }
+    return ui::form(lines);
+  }
+
   static std::string of_program() {
     return "Versione del programma: " + std::string{program_version} +
            ". Licenza: " + std::string{licence_name} + ". Librerie: Qt " + std::string{qt_version} +
@@ -72,6 +98,10 @@ class frmabaut final : public ui::Window {
   void show_licence(bool shows) {
     for (int index = 0; index <= about_program; ++index) {
       lbltesto[index].setVisible(!shows);
+    }
+    for (int index = 0; index < number_of_keys; ++index) {
+      lbltasto[index].setVisible(!shows);
+      lbleffetto[index].setVisible(!shows);
     }
     lbllicenza.setVisible(shows);
     cmdlicenza.set_caption(shows ? "LEGGIMI" : "LICENZA");

@@ -203,18 +203,19 @@ TEST_F(frmabaut, TellsNameVersionAndLicenceAsTheMainWindowAndTheProjectDo) {
   const std::string told_by_main_window = main_window().text("lbltitolo LBLVERSIONE");
   const Driven window = choose("mnuinfo");
   EXPECT_EQ(window.text("lbltitolo lblversione"), told_by_main_window);
-  const std::string of_program = window.text("lbltesto_6");
+  const std::string of_program = window.text("lbltesto_5");
   for (const std::string known : {ETERLAB_VERSION, qVersion(), "MIT License"}) {
     EXPECT_NE(of_program.find(known), std::string::npos) << of_program;
   }
   window.click("cmdlicenza");
-  EXPECT_EQ(window.shown("lbltesto_0 lbltesto_6 lbllicenza"), "lbllicenza");
+  EXPECT_EQ(window.shown("lbltesto_0 lbltasto_0 lbleffetto_5 lbltesto_5 lbllicenza"), "lbllicenza");
   QFile file{ETERLAB_LICENCE};
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   EXPECT_EQ(ui::to_qt(window.text("lbllicenza")).simplified(),
             QString::fromUtf8(file.readAll()).simplified());
   window.click("cmdlicenza");
-  EXPECT_EQ(window.shown("lbltesto_0 lbltesto_6 lbllicenza"), "lbltesto_0 lbltesto_6");
+  EXPECT_EQ(window.shown("lbltesto_0 lbltasto_0 lbleffetto_5 lbltesto_5 lbllicenza"),
+            "lbltesto_0 lbltasto_0 lbleffetto_5 lbltesto_5");
   window.click("cmdchiudi");
   EXPECT_FALSE(is_open("frmabaut"));
 }
