@@ -56,16 +56,11 @@ class frmabaut final : public ui::Window {
   frmabaut() : Window{"frmabaut", "LEGGIMI"} {
     lbltitolo.set_font("Times New Roman", 20.25, QFont::Bold);
     std::vector<ui::Item> texts;
-    for (int index = 0; index <= about_program; ++index) {
-      if (index == about_program) {
-        texts.push_back(list_of_keys());
-      }
-      lbltesto[index] = index < about_program
-                            ? std::string{paragraphs[static_cast<std::size_t>(index)]}
-                            : of_program();
-      lbltesto[index].setWordWrap(true);
-      texts.emplace_back(lbltesto[index]);
+    for (int index = 0; index < about_program; ++index) {
+      texts.push_back(paragraph(index, paragraphs[static_cast<std::size_t>(index)]));
     }
+    texts.push_back(list_of_keys());
+    texts.push_back(paragraph(about_program, of_program()));
     texts.push_back(ui::stretch());
     lbllicenza.setWordWrap(true);
     show_licence(false);
@@ -77,6 +72,12 @@ class frmabaut final : public ui::Window {
   }
 
  private:
+  ui::Item paragraph(int index, std::string_view text) {
+    lbltesto[index] = text;
+    lbltesto[index].setWordWrap(true);
+    return lbltesto[index];
+  }
+
   ui::Item list_of_keys() {
     ui::Fields lines;
     for (int index = 0; index < number_of_keys; ++index) {

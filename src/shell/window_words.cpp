@@ -315,7 +315,7 @@ constexpr auto table = std::to_array<WindowWords>({
     {"frmreszener", "CALCOLO DELLA RESISTENZA DI CADUTA",
      "zener stabilizzatore diodo resistenza resistore"},
     {"frmresistenzakm", "RESISTENZA DI UN FILO IN CORRENTE CONTINUA E IN BF",
-     "filo rame cavo resistività ohm km filo smaltato"},
+     "filo rame cavo resistività ohm km smaltato"},
     {"frmresistenzarf", "RESISTENZA DI UN FILO IN RADIOFREQUENZA",
      "effetto pelle skin filo rame"},
     {"frmoscill_preampl", "ADATTAMENTO TRA STADIO OSCILLATORE E STADIO AMPLIFICATORE",
