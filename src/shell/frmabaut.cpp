@@ -56,6 +56,7 @@ class frmabaut final : public ui::Window {
   frmabaut() : Window{"frmabaut", "LEGGIMI"} {
     lbltitolo.set_font("Times New Roman", 20.25, QFont::Bold);
     std::vector<ui::Item> texts;
+    texts.reserve(about_program + 3);
     for (int index = 0; index < about_program; ++index) {
       texts.push_back(paragraph(index, paragraphs[static_cast<std::size_t>(index)]));
     }
