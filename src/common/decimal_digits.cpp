@@ -92,12 +92,13 @@ void DecimalDigits::drop_trailing_zeros() {
 }
 
 std::string DecimalDigits::digits_between(int highest, int lowest) const {
-  std::string text(static_cast<std::size_t>(highest - lowest + 1), '0');
-  for (char& digit : text) {
-    const int place = exponent_ - highest--;
-    if (place >= 0 && place < count_) {
-      digit = digits_[place];
-    }
+  const int places = highest - lowest + 1;
+  std::string text(static_cast<std::size_t>(places), '0');
+  const int before = exponent_ - highest;  // digits held above the highest, or places above those
+  const int first = std::max(before, 0);
+  const int last = std::min(before + places, count_);
+  if (first < last) {
+    std::copy(digits_ + first, digits_ + last, text.begin() + (first - before));
   }
   return text;
 }

@@ -38,12 +38,14 @@ std::string fixed_text(DecimalDigits number, int decimals) {
 
 std::string pattern_text(DecimalDigits number, std::string_view mask) {
   const std::size_t point = mask.find('.');
-  std::string before{mask.substr(0, point)};
-  const bool grouping = std::erase(before, ',') > 0;
+  const std::string_view before = mask.substr(0, point);
+  const bool grouping = before.find(',') != std::string_view::npos;
   const std::string_view after =
       point == std::string_view::npos ? std::string_view{} : mask.substr(point + 1);
   // The outermost "0" on each side decides: what stands within it is always written too.
-  const auto always_before = before.size() - std::min(before.find('0'), before.size());
+  const std::string_view always = before.substr(std::min(before.find('0'), before.size()));
+  const auto always_before =
+      always.size() - static_cast<std::size_t>(std::ranges::count(always, ','));
   const auto always_after = static_cast<int>(after.find_last_of('0') + 1);
 
   number.round_to(static_cast<int>(after.size()));
