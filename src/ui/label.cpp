@@ -8,11 +8,13 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QPainter>
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
 #include "ui/desktop.h"
+#include "ui/laid_text.h"
 #include "ui/text.h"
 #include "ui/theme.h"
 #include "ui/window.h"
@@ -65,11 +67,9 @@ void Label::dim_if_outdated() {
   is_dimmed_ = true;
 }
 
-void Label::reserve(std::string_view longest_text) {
-  const QString shown = text();
-  setText(to_qt(longest_text));
-  setMinimumWidth(measured(on_one_line).width());
-  setText(shown);
+void Label::reserve(std::string_view text) {
+  ensurePolished();
+  setMinimumWidth(std::max(width_of_line(to_qt(text), font()), minimumWidth()));
 }
 
 void Label::set_prompt_of(QWidget& control) {
@@ -174,18 +174,47 @@ int Label::heightForWidth(int width) const { return measured(width).height(); }
 
 QSize Label::measured(int width) const {
   // To measure texts is most of the work of a layout, and every layout asks for it repeatedly.
+  forget_other_text();
+  const int limit = wordWrap() ? width : on_one_line;
+  if (!measured_.sizes.contains(limit)) {
+    const QSize size = laid(limit).size();
+    measured_.sizes[limit] = {wordWrap() && limit != on_one_line ? limit : size.width(),
+                              at_least_a_line(size.height())};
+  }
+  return measured_.sizes[limit];
+}
+
+const LaidText& Label::laid(int width) const {
+  forget_other_text();
+  const int limit = wordWrap() ? width : on_one_line;
+  const bool fits_on_one_line =
+      measured_.limit == on_one_line && measured_.lines->size().width() <= limit;
+  if (measured_.limit != limit && !fits_on_one_line) {
+    measured_.lines = limit == on_one_line ? std::make_unique<LaidText>(text(), font())
+                                           : std::make_unique<LaidText>(text(), font(), limit);
+    measured_.limit = limit;
+  }
+  return *measured_.lines;
+}
+
+void Label::forget_other_text() const {
   if (measured_.text != text() || measured_.font != font()) {
     ensurePolished();
-    measured_ = {text(), font(), {}};
+    measured_ = {text(), font(), {}, nullptr};
   }
-  if (!measured_.sizes.contains(width)) {
-    const QSize size =
-        wordWrap() && width != on_one_line
-            ? QSize{width, QLabel::heightForWidth(width)}
-            : fontMetrics().boundingRect({0, 0, width, width}, Qt::AlignLeft, text()).size();
-    measured_.sizes[width] = {size.width(), at_least_a_line(size.height())};
+}
+
+void Label::paintEvent(QPaintEvent* event) {
+  const bool is_document = textInteractionFlags() == Qt::TextSelectableByMouse;
+  QPainter painter{this};
+  // On paper letters have other widths.
+  if (is_document || painter.device()->logicalDpiY() != logicalDpiY()) {
+    painter.end();
+    QLabel::paintEvent(event);
+    return;
   }
-  return measured_.sizes[width];
+  painter.setPen(palette().color(foregroundRole()));
+  laid(width()).paint(painter, rect(), alignment());
 }
 
 int Label::at_least_a_line(int height) const {

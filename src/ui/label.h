@@ -3,12 +3,15 @@
 #include <QLabel>
 #include <QMap>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
 #include "ui/control.h"
 
 namespace eterlab::ui {
+
+class LaidText;
 
 /// Text on a window, shown exactly as stored. Its role decides how it looks.
 class Label : public QLabel {
@@ -29,8 +32,9 @@ class Label : public QLabel {
   Label& operator=(std::string_view text);
   [[nodiscard]] std::string content() const;
 
-  /// Keeps the room that this text would take, for a label that is empty or shorter at first.
-  void reserve(std::string_view longest_text);
+  /// Keeps the room that this text would take, for a label that is empty or shorter at first. Of
+  /// several texts the widest counts.
+  void reserve(std::string_view text);
   /// Names a box, or describes a value, for screen readers by this label, whatever it will say.
   void set_prompt_of(QWidget& control);
   void on_click(Handler handler);
@@ -62,6 +66,7 @@ class Label : public QLabel {
   /// Of a result: to copy what is selected, or all of it.
   void contextMenuEvent(QContextMenuEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
@@ -76,10 +81,16 @@ class Label : public QLabel {
 
   /// The room that the text takes within this width, which limits only what is wrapped.
   [[nodiscard]] QSize measured(int width) const;
+  /// The text in lines of this width, for as long as it stays.
+  [[nodiscard]] const LaidText& laid(int width) const;
+  /// What was measured of another text, or in another font.
+  void forget_other_text() const;
   struct Measured {
     QString text;
     QFont font;
     QMap<int, QSize> sizes;  // by width
+    std::unique_ptr<const LaidText> lines;
+    int limit = -1;  // of these lines
   };
 
   Role role_ = Role::text;

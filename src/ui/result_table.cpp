@@ -1,12 +1,12 @@
 #include "ui/result_table.h"
 
 #include <QEvent>
-#include <QFontMetrics>
 #include <QGridLayout>
 #include <algorithm>
 #include <string>
 #include <utility>
 
+#include "ui/laid_text.h"
 #include "ui/text.h"
 #include "ui/theme.h"
 
@@ -33,16 +33,16 @@ class Cell : public Label {
       measured_font_ = font();
       QFont bold = font();
       bold.setBold(true);
-      marked_size_ = QFontMetrics{bold}.boundingRect({}, Qt::AlignLeft, text()).size();
+      marked_width_ = width_of_line(text(), bold);
     }
-    return Label::sizeHint().expandedTo(marked_size_);
+    return Label::sizeHint().expandedTo({marked_width_, 0});
   }
 
  private:
   // Every layout asks for the size repeatedly.
   mutable QString measured_text_;
   mutable QFont measured_font_;
-  mutable QSize marked_size_;
+  mutable int marked_width_ = 0;
 };
 
 class ResultCell final : public Cell, public Blankable {

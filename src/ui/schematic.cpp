@@ -1,6 +1,5 @@
 #include "ui/schematic.h"
 
-#include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -13,6 +12,7 @@
 
 #include "ui/desktop.h"
 #include "ui/label.h"
+#include "ui/laid_text.h"
 #include "ui/text.h"
 
 namespace eterlab::ui {
@@ -609,11 +609,10 @@ void Schematic::keyPressEvent(QKeyEvent* event) {
 }
 
 std::vector<Letters> Schematic::letters() const {
-  const QFontMetricsF metrics{font()};
   std::vector<Letters> letters;
   for (const Mark& mark : marks_) {
-    const QSizeF size = metrics.size(Qt::TextSingleLine, mark.text);
-    letters.push_back({room_of(size, mark.place, mark.side), mark.text});
+    const LaidText text{mark.text, font()};
+    letters.push_back({room_of(text.exact_size(), mark.place, mark.side), mark.text});
   }
   return letters;
 }
@@ -622,7 +621,11 @@ void Schematic::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter{this};
   painter.setRenderHint(QPainter::Antialiasing);
   shapes_.paint(painter, palette());
-  paint(painter, palette(), letters());
+  painter.setPen(palette().color(QPalette::WindowText));
+  for (const Mark& mark : marks_) {
+    const LaidText text{mark.text, font()};
+    text.paint(painter, room_of(text.exact_size(), mark.place, mark.side), Qt::AlignCenter);
+  }
   if (hasFocus()) {
     QStyleOptionFocusRect frame;
     frame.initFrom(this);

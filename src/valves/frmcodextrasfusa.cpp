@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <array>
+#include <set>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -46,11 +48,7 @@ class frmcodextrasfusa final : public ui::Calculator {
                    Computes::as_typed} {
     name_exit("cmdchiudi", "CHIUDI");
     cmbtipo.offer(lead_colours());
-    for (const LeadColours& part : lead_colours()) {
-      for (const Lead& lead : part.leads) {
-        reserve(lead);
-      }
-    }
+    reserve_columns();
     lay_out(ui::column(ui::row(ui::form(cmbtipo), ui::stretch()), table, drawing, Label5, Label6));
   }
 
@@ -62,14 +60,24 @@ class frmcodextrasfusa final : public ui::Calculator {
   static constexpr double centre_x = 48;
   static constexpr double middle_y = 15;
 
-  /// Room for a lead in the columns, which keep their width from one part to the other.
-  void reserve(const Lead& lead) const {
-    int column = 0;
-    for (const std::string_view text : {lead.name, lead.colour, lead.english}) {
-      ui::Label& cell = table.at(0, column);
-      const int width = cell.minimumWidth();
-      table.reserve(column++, text);
-      cell.setMinimumWidth(std::max(width, cell.minimumWidth()));
+  /// The columns keep their width from one part to the other.
+  void reserve_columns() const {
+    std::array<std::set<std::string_view>, 3> texts;
+    for (const LeadColours& part : lead_colours()) {
+      for (const Lead& lead : part.leads) {
+        texts[0].insert(lead.name);
+        texts[1].insert(lead.colour);
+        texts[2].insert(lead.english);
+      }
+    }
+    for (int column = 0; const auto& texts_of_column : texts) {
+      const auto longest = std::ranges::max(texts_of_column, {}, &std::string_view::size).size();
+      for (const std::string_view text : texts_of_column) {
+        if (text.size() > longest * 3 / 4) {  // no shorter one is the widest
+          table.reserve(column, text);
+        }
+      }
+      ++column;
     }
   }
 

@@ -6,10 +6,14 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QTest>
+#include <algorithm>
+#include <string>
 
 #include "common/regional_settings.h"
+#include "ui/text.h"
 #include "ui/window_text.h"
 
 namespace eterlab {
@@ -75,6 +79,45 @@ TEST_F(ResultText, ItsNumberIsCopiedAsOneTypesIt) {
   set_regional_settings({});
   choose(1);
   EXPECT_EQ(copied(), "123");
+}
+
+// The toolkit's own label finds its glyphs anew each time; what it measures and paints is the
+// model.
+TEST(Label, IsMeasuredAndPaintedAsTheToolkitsOwn) {
+  const std::string texts[] = {
+      "", "MHz 123", "LUNGHEZZA D'ONDA : ", "PRIMA RIGA\nE SECONDA",
+      "IL FRENO DELL'ANODO E' \u03bc = 20, CON 250 V IN ENTRATA E 15 IN USCITA "};
+  for (const std::string& text : texts) {
+    for (const bool wraps : {false, true}) {
+      for (const Qt::Alignment alignment :
+           {Qt::AlignLeft | Qt::AlignVCenter, Qt::AlignCenter | Qt::AlignBottom,
+            Qt::AlignRight | Qt::AlignTop}) {
+        ui::Label ours{nullptr, "lblours", text};
+        QLabel model{ui::to_qt(text)};
+        for (QLabel* label : {static_cast<QLabel*>(&ours), &model}) {
+          label->setWordWrap(wraps);
+          label->setAlignment(alignment);
+          label->resize(151, 90);
+        }
+        EXPECT_EQ(ours.grab().toImage(), model.grab().toImage()) << text << wraps << alignment;
+        if (wraps && !text.empty()) {
+          EXPECT_EQ(ours.heightForWidth(151), model.heightForWidth(151)) << text;
+        } else if (!text.empty()) {
+          EXPECT_EQ(ours.sizeHint(), model.sizeHint()) << text;
+        }
+      }
+    }
+  }
+}
+
+TEST(Label, KeepsRoomForTheWidestOfSeveralTexts) {
+  ui::Label label{nullptr, "lblout"};
+  int widest = 0;
+  for (const char* text : {"W", "999.999,999", "1,5 "}) {
+    label.reserve(text);
+    widest = std::max(widest, ui::Label{nullptr, "lblmodel", text}.sizeHint().width());
+    EXPECT_EQ(label.minimumWidth(), widest) << text;
+  }
 }
 
 }  // namespace
