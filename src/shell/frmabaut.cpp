@@ -48,7 +48,7 @@ class frmabaut final : public ui::Window {
   ui::LabelArray lbltesto{this, "lbltesto", about_program + 1};
   ui::LabelArray lbltasto{this, "lbltasto", number_of_keys};
   ui::LabelArray lbleffetto{this, "lbleffetto", number_of_keys};
-  ui::Label lbllicenza{this, "lbllicenza", licence};
+  ui::Label lbllicenza{this, "lbllicenza"};
   ui::Button cmdlicenza{this, "cmdlicenza", "LICENZA"};
   ui::ExitButton cmdchiudi{this, "cmdchiudi", "CHIUDI"};
 
@@ -104,6 +104,9 @@ class frmabaut final : public ui::Window {
     for (int index = 0; index < number_of_keys; ++index) {
       lbltasto[index].setVisible(!shows);
       lbleffetto[index].setVisible(!shows);
+    }
+    if (shows) {  // to lay it out is wasted on who does not ask for it; the texts need more room
+      lbllicenza = licence;
     }
     lbllicenza.setVisible(shows);
     cmdlicenza.set_caption(shows ? "LEGGIMI" : "LICENZA");

@@ -207,7 +207,10 @@ TEST_F(frmabaut, TellsNameVersionAndLicenceAsTheMainWindowAndTheProjectDo) {
   for (const std::string known : {ETERLAB_VERSION, qVersion(), "MIT License"}) {
     EXPECT_NE(of_program.find(known), std::string::npos) << of_program;
   }
+  const QSize size = window.window().size();
   window.click("cmdlicenza");
+  settle();
+  EXPECT_EQ(window.window().size(), size);
   EXPECT_EQ(window.shown("lbltesto_0 lbltasto_0 lbleffetto_5 lbltesto_5 lbllicenza"), "lbllicenza");
   QFile file{ETERLAB_LICENCE};
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
