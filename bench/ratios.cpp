@@ -146,13 +146,12 @@ Opening opening(const std::string& name) {
   Costs same_texts;
   for (int turn = 0; turn < turns; ++turn) {
     ours.push_back(processor_seconds([&] { open(name); }));
-    const QWidget& model = open(name);
+    open(name);
+    const auto models = open_windows();
     for (const Texts texts : {Texts::none, Texts::same}) {
-      std::unique_ptr<QWidget> bare;
+      BareWindows bare;
       (texts == Texts::none ? empty : same_texts).push_back(processor_seconds([&] {
-        bare = bare_window_like(model, texts);
-        bare->show();
-        settle();
+        bare = open_bare(models, texts);
       }));
     }
     close_all();

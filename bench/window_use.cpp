@@ -14,6 +14,7 @@
 #include <QRadioButton>
 #include <QTableWidget>
 #include <QTimer>
+#include <utility>
 
 #include "ui/desktop.h"
 #include "ui/registry.h"
@@ -167,13 +168,29 @@ void go_down_and_back(QListWidget& list) {
   settle();
 }
 
-std::unique_ptr<QWidget> bare_window_like(const QWidget& window, Texts texts) {
-  auto bare = std::make_unique<QWidget>();
-  auto* column = new QVBoxLayout{bare.get()};
-  for (const QWidget* widget : window.findChildren<QWidget*>()) {
-    column->addWidget(bare_widget_like(*widget, texts));
+std::vector<const QWidget*> open_windows() {
+  std::vector<const QWidget*> windows;
+  for (const std::string& name : ui::registry::names()) {
+    if (const ui::Window* window = find(name); window != nullptr) {
+      windows.push_back(window);
+    }
   }
-  return bare;
+  return windows;
+}
+
+BareWindows open_bare(const std::vector<const QWidget*>& models, Texts texts) {
+  BareWindows windows;
+  for (const QWidget* model : models) {
+    auto bare = std::make_unique<QWidget>();
+    auto* column = new QVBoxLayout{bare.get()};
+    for (const QWidget* widget : model->findChildren<QWidget*>()) {
+      column->addWidget(bare_widget_like(*widget, texts));
+    }
+    bare->show();
+    windows.push_back(std::move(bare));
+  }
+  settle();
+  return windows;
 }
 
 std::vector<LiveBox> live_boxes() {

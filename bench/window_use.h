@@ -20,9 +20,14 @@ QWidget& open(std::string_view window);
 /// Closes all that is open.
 void close_all();
 
-/// The widgets of a window, of the same kinds, in one column and as the toolkit makes them.
+/// Those that are open. Some windows open a companion beside themselves.
+std::vector<const QWidget*> open_windows();
+
+/// For each window another with as many widgets of the same kinds, in one column and as the toolkit
+/// makes them.
 enum class Texts : bool { none, same };
-std::unique_ptr<QWidget> bare_window_like(const QWidget& window, Texts texts);
+using BareWindows = std::vector<std::unique_ptr<QWidget>>;
+BareWindows open_bare(const std::vector<const QWidget*>& models, Texts texts);
 
 /// A box that computes as the user types.
 struct LiveBox {

@@ -20,13 +20,12 @@ void open_window(benchmark::State& state, const std::string& name) {
 }
 
 void open_bare_window(benchmark::State& state, const std::string& name, Texts texts) {
-  const QWidget& model = open(name);
+  open(name);
+  const auto models = open_windows();
   for ([[maybe_unused]] auto iteration : state) {
-    auto bare = bare_window_like(model, texts);
-    bare->show();
-    settle();
+    BareWindows bare = open_bare(models, texts);
     state.PauseTiming();
-    bare.reset();
+    bare.clear();
     state.ResumeTiming();
   }
   close_all();
