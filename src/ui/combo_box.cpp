@@ -38,6 +38,9 @@ ComboBox::ComboBox(Parent parent, std::string_view name, std::string_view text, 
     hide_completions();
     chosen_ = index;
     at_rest_ = currentText();
+    if (lineEdit()->hasFocus()) {
+      lineEdit()->selectAll();  // what is typed next looks for another
+    }
     outdate_results(*this);
   });
   connect(lineEdit(), &QLineEdit::textEdited, this, &ComboBox::complete);
@@ -91,7 +94,6 @@ void ComboBox::take_completion() {
   hide_completions();
   if (row >= 0) {
     choose(completions_[static_cast<std::size_t>(row)]);
-    lineEdit()->selectAll();  // what is typed next looks for another
   }
 }
 
