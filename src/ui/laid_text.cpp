@@ -2,8 +2,8 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QRectF>
 #include <QTextOption>
+#include <QWidget>
 #include <algorithm>
 #include <cmath>
 
