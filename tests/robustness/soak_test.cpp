@@ -44,6 +44,13 @@ class Soak : public WindowTest, public ::testing::WithParamInterface<std::string
   void SetUp() override { QPixmapCache::setCacheLimit(0); }
   void TearDown() override { QPixmapCache::setCacheLimit(usual_cache_kib_); }
 
+  void open_use_and_close(int times) {
+    for (int time = 0; time < times; ++time) {
+      open_use_and_close();
+    }
+  }
+
+ private:
   void open_use_and_close() {
     ui::Window& window = open(GetParam());
     window.show_example();
@@ -63,26 +70,26 @@ class Soak : public WindowTest, public ::testing::WithParamInterface<std::string
     boxes();
   }
 
- private:
   const int usual_cache_kib_ = QPixmapCache::cacheLimit();
 };
 
 TEST_P(Soak, OpeningsLeaveNothingBehind) {
   constexpr int rounds_that_fill_caches = 20;
   desktop().show("frmavvertenza");  // where the main window comes and goes, the program goes on
-  for (int round = 0; round < rounds_that_fill_caches; ++round) {
-    open_use_and_close();
-  }
+  open_use_and_close(rounds_that_fill_caches);
   const qsizetype widgets = QApplication::allWidgets().size();
-  const double heap_kib = heap_in_use_kib();
   const int rounds =
       qEnvironmentVariable("ETERLAB_SOAK_ROUNDS", QString::number(usual_rounds)).toInt();
-  for (int round = rounds_that_fill_caches; round < rounds; ++round) {
-    open_use_and_close();
+  // The toolkit drops fonts after some seconds and finds them again: once, where a leak goes on.
+  double left_kib = noise_kib;
+  for (int attempt = 0; attempt < 3 && left_kib >= noise_kib; ++attempt) {
+    const double heap_kib = heap_in_use_kib();
+    open_use_and_close(rounds - rounds_that_fill_caches);
+    left_kib = heap_in_use_kib() - heap_kib;
   }
+  EXPECT_LT(left_kib, noise_kib);
   EXPECT_FALSE(has_ended());
   EXPECT_EQ(QApplication::allWidgets().size(), widgets);
-  EXPECT_LT(heap_in_use_kib(), heap_kib + noise_kib);
 }
 
 INSTANTIATE_TEST_SUITE_P(Windows, Soak, ::testing::ValuesIn(ui::registry::names()),
