@@ -129,6 +129,8 @@ TEST_F(frmhairpin, Hairpins) {
                  "LA RESISTENZA DEVE ESSERE MINORE DELL'IMPEDENZA DEL CAVO");
   expect_refusal("14.15|47.6|50|25|6|50", "txtr", "RADIATORE GIA' ADATTATO: L'HAIRPIN NON SERVE",
                  notice);
+  enter("14.15|63.46|66.8|25|6|50");  // 0.95 times the cable's, whose double is less
+  EXPECT_EQ(boxes(), Boxes{});
   // A fiftieth and a twentieth of 2067.5 mm
   expect_refusal("145|28|50|42|3|20", "txtradiatore", "RADIATORE TROPPO GROSSO: MASSIMO 41 mm");
   expect_refusal("145|28|50|6|3|104", "txtdistanza", "LA DISTANZA NON DEVE SUPERARE 103 mm");

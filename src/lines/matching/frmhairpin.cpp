@@ -115,7 +115,7 @@ class frmhairpin final : public LineWindow {
     const Real widest_mm = wavelength_mm / 20;
     require(task.radiator_ohm <= task.cable_ohm, txtr,
             "LA RESISTENZA DEVE ESSERE MINORE DELL'IMPEDENZA DEL CAVO");
-    advise(task.radiator_ohm <= 0.95 * task.cable_ohm, txtr,
+    advise(reaches(0.95 * task.cable_ohm, task.radiator_ohm), txtr,
            "RADIATORE GIA' ADATTATO: L'HAIRPIN NON SERVE");
     require(task.radiator_diameter_mm <= thickest_mm, txtradiatore,
             "RADIATORE TROPPO GROSSO: MASSIMO " + fixed_down(thickest_mm, 0) + " mm");
