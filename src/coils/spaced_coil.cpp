@@ -3,6 +3,7 @@
 #include "coils/solenoid.h"
 #include "common/numerics.h"
 #include "common/physics.h"
+#include "common/rounding.h"
 
 namespace eterlab::coils {
 
@@ -51,6 +52,6 @@ SpacedCoil spaced_to_inductance(Real inductance_uh, Real diameter_mm, int turns)
           root_between(0.01 * square_pitch_mm, 100 * square_pitch_mm, excess_uh)};
 }
 
-bool can_be_wound(const SpacedCoil& coil) { return coil.pitch_mm >= least_pitch_mm; }
+bool can_be_wound(const SpacedCoil& coil) { return reaches(coil.pitch_mm, least_pitch_mm); }
 
 }  // namespace eterlab::coils

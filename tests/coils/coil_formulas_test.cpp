@@ -89,10 +89,14 @@ TEST(SpacedCoil, HasTheFewestTurnsAndExactlyTheInductance) {
       EXPECT_LT(inductance_uh({60, fewer, 60.0 / fewer}), wanted_uh);
     }
   }
-  // 5 turns at 0.2 mm are as long as a coil of 1 mm is wide.
-  const Real most_uh = inductance_uh({1, 5, 0.2});
-  EXPECT_EQ(spaced_coil(most_uh * 0.999, 1)->turns, 5);
-  EXPECT_FALSE(spaced_coil(most_uh * 1.001, 1));
+  // As many turns at 0.2 mm are as long as the coil is wide; 1.4 / 7 is a double below 0.2.
+  for (const auto& [diameter_mm, turns] : {std::pair{1.0, 5}, {1.4, 7}, {17.4, 87}}) {
+    const Real most_uh = inductance_uh({diameter_mm, turns, 0.2});
+    const auto longest = spaced_coil(most_uh * 0.9999, diameter_mm);
+    ASSERT_TRUE(longest) << diameter_mm;
+    EXPECT_EQ(longest->turns, turns);
+    EXPECT_FALSE(spaced_coil(most_uh * 1.0001, diameter_mm)) << diameter_mm;
+  }
 }
 
 TEST(ToroidCores, SizesWithTheirNumbersOfMixesAndDiameters) {
