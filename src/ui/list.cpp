@@ -1,7 +1,5 @@
 #include "ui/list.h"
 
-#include <utility>
-
 #include "ui/desktop.h"
 #include "ui/text.h"
 
@@ -40,9 +38,21 @@ void List::choose(std::string_view entry) {
   choose(index);
 }
 
-void List::on_choose(Handler handler) {
-  connect(this, &QComboBox::currentIndexChanged, this,
-          [handler = std::move(handler)] { Desktop::instance().run(handler); });
+void List::on_choose(const Handler& handler) {
+  connect(this, &QComboBox::currentIndexChanged, this, [this, handler] {
+    has_changed_ = true;
+    Desktop::instance().run(handler);
+  });
+  connect(this, &QComboBox::activated, this, [this, handler] {
+    if (!has_changed_) {
+      Desktop::instance().run(handler);
+    }
+  });
+}
+
+void List::showPopup() {
+  has_changed_ = false;
+  QComboBox::showPopup();
 }
 
 }  // namespace eterlab::ui

@@ -51,10 +51,13 @@ class List final : public QComboBox {
   /// The entry of that text, which must be there.
   void choose(std::string_view entry);
 
-  /// Another entry is chosen.
-  void on_choose(Handler handler);
+  /// Another entry is chosen, or the same one picked again from the list.
+  void on_choose(const Handler& handler);
+
+  void showPopup() override;
 
  private:
+  bool has_changed_ = false;  // since the list was last open
   std::unique_ptr<Label> prompt_;
 };
 

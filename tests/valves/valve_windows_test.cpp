@@ -1,3 +1,5 @@
+#include <QComboBox>
+
 #include "support/form_test.h"
 
 namespace eterlab::test {
@@ -48,6 +50,9 @@ TEST_F(frmtrasfuscita, TakesAValveFromTheList) {
             "|2500|3.5|60|IMPEDENZA ANODICA in Ohm");
   window.type("txtra Option1", "2600|1");
   EXPECT_EQ(window.text("cmbvalvola txtra"), "2A3|2600");
+  const auto& valves = dynamic_cast<QComboBox&>(window.control("cmbvalvola"));
+  window.pick("cmbvalvola", valves.currentIndex());
+  EXPECT_EQ(window.text("txtra lblra"), "2500|IMPEDENZA ANODICA in Ohm") << "picked again";
 }
 
 using frmcodextrasfusa = FormTest;
