@@ -146,7 +146,6 @@ Opening opening(const std::string& name) {
   Costs same_texts;
   for (int turn = 0; turn < turns; ++turn) {
     ours.push_back(processor_seconds([&] { open(name); }));
-    open(name);
     const auto models = open_windows();
     for (const Texts texts : {Texts::none, Texts::same}) {
       BareWindows bare;

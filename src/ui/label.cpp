@@ -178,7 +178,7 @@ QSize Label::measured(int width) const {
   const int limit = wordWrap() ? width : on_one_line;
   if (!measured_.sizes.contains(limit)) {
     const QSize size = laid(limit).size();
-    measured_.sizes[limit] = {wordWrap() && limit != on_one_line ? limit : size.width(),
+    measured_.sizes[limit] = {limit != on_one_line ? limit : size.width(),
                               at_least_a_line(size.height())};
   }
   return measured_.sizes[limit];
