@@ -73,7 +73,7 @@ class frmcodextrasfusa final : public ui::Calculator {
     for (int column = 0; const auto& texts_of_column : texts) {
       const auto longest = std::ranges::max(texts_of_column, {}, &std::string_view::size).size();
       for (const std::string_view text : texts_of_column) {
-        if (text.size() > longest * 3 / 4) {  // no shorter one is the widest
+        if (text.size() > longest * 9 / 10) {  // no shorter one is the widest
           table.reserve(column, text);
         }
       }
